@@ -1,0 +1,54 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+#include <vector>
+
+#include "picture/byte_stream.h"
+
+namespace fuzz {
+
+/// Ends the run, and keeps the input, where a promise of the code is broken.
+inline void require(bool kept) {
+  if (!kept) std::abort();
+}
+
+/// The first bytes of an input as a head of fixed size, and a device for the rest.
+template <std::size_t kHeadSize>
+struct File {
+  explicit File(std::span<const std::uint8_t> input) : bytes(input) {}
+
+  auto head() const { return bytes.first<kHeadSize>(); }
+  auto size() const { return static_cast<std::int64_t>(bytes.size()); }
+  mill::ReadBytes reader() const {
+    return [rest = bytes.subspan(kHeadSize)](std::span<std::uint8_t> to) mutable {
+      if (to.size() > rest.size()) return false;
+      std::copy_n(rest.begin(), to.size(), to.begin());
+      rest = rest.subspan(to.size());
+      return true;
+    };
+  }
+
+  std::span<const std::uint8_t> bytes;
+};
+
+inline mill::WriteBytes writer(std::vector<std::uint8_t>& bytes) {
+  return [&bytes](std::span<const std::uint8_t> from) {
+    bytes.insert(bytes.end(), from.begin(), from.end());
+    return true;
+  };
+}
+
+/// Adds up what is reported.
+struct Sum : mill::Progress {
+  void report(std::int16_t num, std::int32_t times) override {
+    require(num > 0 && times > 0);
+    bytes += std::int64_t{num} * times;
+  }
+  std::int64_t bytes = 0;
+};
+
+}  // namespace fuzz

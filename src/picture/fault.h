@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string_view>
+
+namespace mill {
+
+/// What can go wrong with a picture or palette file. One fault, one message.
+enum class Fault {
+  None,
+  PictureMissing,
+  NotABitmap,
+  PictureDamaged,
+  PictureUnreadable,
+  WrongDepth,
+  WrongShape,
+  Unwritable,
+  SameDirectory,
+  PaletteMissing,
+  PaletteIncomplete,
+  PaletteUnreadable,
+  PaletteUnwritable,
+};
+
+/// The text that tells the user of `fault`; empty for `Fault::None`.
+std::string_view message(Fault fault);
+
+}  // namespace mill

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+/// The file formats once more, byte by byte and as plainly as they can be put, to hold the program
+/// against. Nothing here uses the program's own code.
+namespace model {
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct Colour {
+  std::uint8_t red, green, blue, extra;
+};
+using Colours = std::array<Colour, 256>;
+
+/// 256 colours without a pattern in them; another `seed` gives others.
+Colours someColours(int seed);
+/// `count` bytes in which no row is like its neighbour.
+Bytes somePixels(std::size_t count);
+
+struct Kestrel {
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  std::int32_t dataSize = 0;
+  Bytes pixels = somePixels(static_cast<std::size_t>(dataSize));
+  std::int32_t paletteIndex = 25;
+  std::int16_t depth = 8;
+  std::string magic = "KS";
+  Bytes behind = {};
+};
+
+/// The bytes of a Kestrel Bitmap. `dataSize` is written as it is, whatever `pixels` holds.
+Bytes kestrelBitmap(const Kestrel& picture);
+/// What the file `kestrel` is converted to with these colours.
+Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours);
+
+Bytes paletteFile(const std::string& head, const Colours& colours);
+
+struct ListRecord {
+  Colours colours;
+  std::int32_t index;
+};
+/// A palette list. A colour of `extra` 255 has red first in it, any other has blue first.
+Bytes paletteList(const std::vector<ListRecord>& records);
+
+/// A device that reads `bytes` from `at` on and fails once it would pass `end`.
+std::function<bool(std::span<std::uint8_t>)> reader(const Bytes& bytes, std::size_t at,
+                                                    std::size_t end);
+/// A device that adds to `bytes` and fails, changing nothing, where that would pass `limit`.
+std::function<bool(std::span<const std::uint8_t>)> writer(Bytes& bytes, std::size_t limit);
+
+}  // namespace model
