@@ -1,0 +1,70 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/form.h"
+
+class QWidget;
+
+namespace forms {
+
+/// The method of a form that answers an event of one of its controls, written as
+/// `&ConvertForm::cmdYes_Click`. The default answers nothing.
+class Handler {
+ public:
+  Handler() = default;
+  template <class F>
+  Handler(void (F::*method)())
+      : call_([method](Form& form) { (static_cast<F&>(form).*method)(); }) {}
+
+  void operator()(Form& form) const {
+    if (call_) call_(form);
+  }
+
+ private:
+  std::function<void(Form&)> call_;
+};
+
+/// What a control is at the start beyond its caption and place.
+enum Trait : unsigned {
+  Plain = 0,
+  Default = 1,   ///< command buttons: Enter presses it
+  Cancel = 2,    ///< command buttons: Escape presses it
+  Disabled = 4,  ///< can't be used until code enables it
+};
+constexpr Trait operator|(Trait a, Trait b) {
+  return static_cast<Trait>(static_cast<unsigned>(a) | static_cast<unsigned>(b));
+}
+
+/// What all controls share: a name, a place in a container, and whether they can be used.
+class Control {
+ public:
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  bool Enabled() const;
+  void setEnabled(bool enabled);
+
+ protected:
+  /// Takes `widget`, which is a child of the container already.
+  Control(Container& parent, const char* name, QWidget* widget, const Rect& place,
+          Trait traits = Plain);
+  ~Control();
+
+  /// Takes the caption that a label has lent as accessible name.
+  void borrowLabel(Container& parent);
+
+  /// The widget by the type that the derived class made it.
+  template <class W>
+  W* as() const {
+    return static_cast<W*>(widget_);
+  }
+
+  Form& form_;
+
+ private:
+  QWidget* widget_;
+};
+
+}  // namespace forms

@@ -1,0 +1,132 @@
+#include "platform/dir_tree.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace forms {
+
+namespace {
+
+constexpr int kFilled = Qt::UserRole;
+
+QTreeWidgetItem* makeItem(const std::string& name) {
+  auto* item = new QTreeWidgetItem({shown(name)});
+  item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
+  return item;
+}
+
+}  // namespace
+
+std::string parentOf(const std::string& path) {
+  const std::size_t end = path.find_last_not_of('\\');
+  const std::size_t separator = end == std::string::npos ? end : path.rfind('\\', end);
+  if (separator == std::string::npos) return path.substr(0, 2) + "\\";
+  return path.substr(0, std::max<std::size_t>(separator, 3));
+}
+
+DirTree::DirTree(QWidget* parent) : QTreeWidget(parent) {
+  setColumnCount(1);
+  setHeaderHidden(true);
+  setUniformRowHeights(true);
+  setIndentation(12);
+  // A long name is read by scrolling, not cut.
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  header()->setStretchLastSection(false);
+  connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { fill(item); });
+  // What is highlighted stays in sight.
+  connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
+    for (auto* above = currentItem(); above; above = above->parent()) {
+      if (above == item) return setCurrentItem(item);
+    }
+  });
+  connect(this, &QTreeWidget::currentItemChanged, this, [this] { changed(); });
+}
+
+std::string DirTree::path() const {
+  const QTreeWidgetItem* item = currentItem();
+  if (!item) return {};
+  std::string path = bytesOf(item->text(0));
+  while ((item = item->parent())) path = bytesOf(item->text(0)) + "\\" + path;
+  // The root item is the drive itself, "Z:\".
+  if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
+  return path;
+}
+
+void DirTree::choose(const std::string& wanted) {
+  QTreeWidgetItem* item = nullptr;
+  {
+    const QSignalBlocker quiet(this);
+    const std::string root = wanted.substr(0, 2) + "\\";
+    if (topLevelItemCount() == 0 || bytesOf(topLevelItem(0)->text(0)) != root) showDrive(root);
+    item = topLevelItem(0);
+  }
+  std::string_view rest(wanted);
+  rest.remove_prefix(2);
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\\'), rest.size());
+    if (end > 0) {
+      fill(item);
+      item->setExpanded(true);
+      item = child(item, std::string(rest.substr(0, end)));
+    }
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  item->setExpanded(true);
+  setCurrentItem(item);
+  scrollTo(indexFromItem(item), PositionAtCenter);
+}
+
+/// Sideways, Qt would show the middle of the widest name. The beginning of this one is what counts,
+/// with the directory that it stands in where there is room for both.
+void DirTree::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  QScrollBar* bar = horizontalScrollBar();
+  const int sideways = bar->value();
+  QTreeWidget::scrollTo(index, hint);
+  bar->setValue(sideways);
+  const QRect name = visualRect(index);
+  const int right = name.left() + sizeHintForIndex(index).width();
+  if (name.left() < 0 || right > viewport()->width()) {
+    bar->setValue(sideways + name.left() - 2 * indentation());
+  }
+}
+
+void DirTree::showDrive(const std::string& root) {
+  clear();
+  addTopLevelItem(makeItem(root));
+}
+
+void DirTree::fill(QTreeWidgetItem* item) {
+  if (item->data(0, kFilled).toBool()) return;
+  item->setData(0, kFilled, true);
+  std::string path = bytesOf(item->text(0));
+  for (auto* above = item->parent(); above; above = above->parent()) {
+    path = bytesOf(above->text(0)) + "\\" + path;
+  }
+  std::vector<std::string> names = directoriesIn(path);
+  std::sort(names.begin(), names.end());
+  QList<QTreeWidgetItem*> children;
+  for (const std::string& name : names) children.append(makeItem(name));
+  item->addChildren(children);
+  if (children.isEmpty()) {
+    item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicatorWhenChildless);
+  }
+}
+
+QTreeWidgetItem* DirTree::child(QTreeWidgetItem* item, const std::string& name) {
+  for (int i = 0; i < item->childCount(); ++i) {
+    if (bytesOf(item->child(i)->text(0)) == name) return item->child(i);
+  }
+  // A hidden directory, or one that was made since: shown because it was asked for.
+  auto* made = makeItem(name);
+  item->addChild(made);
+  return made;
+}
+
+}  // namespace forms

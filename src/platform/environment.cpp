@@ -1,0 +1,47 @@
+#include "platform/environment.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/paths.h"
+
+namespace forms {
+
+namespace {
+
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value ? value : "";
+}
+
+/// In a directory where others can write, a file of a known name could be theirs.
+bool isPrivate(const std::filesystem::path& directory) {
+  struct stat status {};
+  return ::stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+         status.st_uid == ::getuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+}
+
+std::string ownDirectory() {
+  std::string base = variable("XDG_CACHE_HOME");
+  if (base.empty()) base = variable("HOME") + "/.cache";
+  const std::filesystem::path own = base + "/raster-mill";
+  std::error_code error;
+  std::filesystem::create_directories(own, error);
+  std::filesystem::permissions(own, std::filesystem::perms::owner_all, error);
+  return drivePath(own.string());
+}
+
+}  // namespace
+
+std::string tempDirectory() {
+  if (const std::string given = variable("temp"); !given.empty()) return given;
+  for (const char* name : {"TEMP", "TMPDIR"}) {
+    const std::string given = variable(name);
+    if (!given.empty() && isPrivate(nativePath(given))) return drivePath(given);
+  }
+  return ownDirectory();
+}
+
+}  // namespace forms

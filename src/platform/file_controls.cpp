@@ -1,0 +1,108 @@
+#include "platform/file_controls.h"
+
+#include <QComboBox>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <cctype>
+
+#include "platform/dir_tree.h"
+#include "platform/file_view.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "platform/text.h"
+
+namespace forms {
+
+DriveListBox::DriveListBox(Container& parent, const char* name, const Rect& place, Handler change)
+    : Control(parent, name, new QComboBox(parent.host()), place) {
+  auto* box = as<QComboBox>();
+  box->setAccessibleName(QStringLiteral("Drive"));
+  for (const std::string& drive : drives()) box->addItem(shown(drive));
+  box->setCurrentText(QStringLiteral("Z:"));
+  QObject::connect(box, &QComboBox::currentIndexChanged, [this, change] { change(form_); });
+}
+
+std::string DriveListBox::Drive() const {
+  return bytesOf(as<QComboBox>()->currentText());
+}
+
+void DriveListBox::setDrive(const std::string& drive) {
+  auto* box = as<QComboBox>();
+  const int index = box->findText(shown(drive), Qt::MatchFixedString);
+  if (index >= 0) box->setCurrentIndex(index);
+}
+
+DirListBox::DirListBox(Container& parent, const char* name, const Rect& place, Handler change)
+    : Control(parent, name, new DirTree(parent.host()), place) {
+  auto* tree = as<DirTree>();
+  tree->setAccessibleName(QStringLiteral("Directory"));
+  tree->choose("Z:\\");
+  tree->changed = [this, change] { change(form_); };
+}
+
+std::string DirListBox::Path() const {
+  std::string path = as<DirTree>()->path();
+  while (!isDirectory(path) && path.size() > 3) path = parentOf(path);
+  return path;
+}
+
+void DirListBox::setPath(const std::string& path) {
+  std::string wanted = drivePath(path);
+  if (nativePath(wanted).empty()) return;
+  wanted[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(wanted[0])));
+  while (!isDirectory(wanted) && wanted != parentOf(wanted)) wanted = parentOf(wanted);
+  as<DirTree>()->choose(wanted);
+}
+
+FileListBox::FileListBox(Container& parent, const char* name, const Rect& place,
+                         const char* pattern, MultiSelect multi, Handler click, Handler dblClick)
+    : Control(parent, name, new FileView(parent.host(), multi == MultiSelect::Extended), place),
+      pattern_(pattern) {
+  auto* view = as<FileView>();
+  view->setAccessibleName(QStringLiteral("Files"));
+  view->clicked = [this, click] { click(form_); };
+  view->doubleClicked = [this, dblClick] { dblClick(form_); };
+}
+
+void FileListBox::setPath(const std::string& path) {
+  path_ = drivePath(path);
+  reload();
+}
+
+void FileListBox::setPattern(const std::string& pattern) {
+  pattern_ = pattern;
+  reload();
+}
+
+void FileListBox::reload() {
+  std::vector<std::string> names = filesIn(path_, pattern_);
+  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+  std::sort(names.begin(), names.end(), [&](const std::string& a, const std::string& b) {
+    const auto [atA, atB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                          [&](char x, char y) { return lower(x) == lower(y); });
+    if (atA == a.end() && atB == b.end()) return a < b;
+    if (atA == a.end() || atB == b.end()) return atA == a.end();
+    return lower(*atA) < lower(*atB);
+  });
+  as<FileView>()->setNames(std::move(names));
+}
+
+int FileListBox::ListCount() const {
+  return static_cast<int>(as<FileView>()->names().size());
+}
+
+const std::string& FileListBox::List(int index) const {
+  return as<FileView>()->names()[static_cast<std::size_t>(index)];
+}
+
+bool FileListBox::Selected(int index) const {
+  return as<FileView>()->isSelected(index);
+}
+
+std::string FileListBox::FileName() const {
+  const int row = as<FileView>()->currentIndex().row();
+  return row < 0 ? std::string() : List(row);
+}
+
+}  // namespace forms

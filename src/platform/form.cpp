@@ -1,0 +1,221 @@
+#include "platform/form.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+#include "platform/application.h"
+#include "platform/shell.h"
+#include "platform/text.h"
+
+namespace forms {
+
+namespace {
+
+bool isToolWindow(const FormLook& look) {
+  return look.BorderStyle == Border::FixedToolWindow ||
+         look.BorderStyle == Border::SizableToolWindow;
+}
+
+Qt::WindowFlags windowFlags(const FormLook& look) {
+  const Qt::WindowFlags kind = isToolWindow(look) ? Qt::Tool
+                               : look.MinButton   ? Qt::Window
+                                                  : Qt::Dialog;
+  Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  if (look.ControlBox) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+  if (look.MinButton) flags |= Qt::WindowMinimizeButtonHint;
+  return flags;
+}
+
+/// Holds an unloaded form until the event loop deletes it.
+class Grave final : public QObject {
+ public:
+  std::unique_ptr<Form> form;
+};
+
+}  // namespace
+
+Form::Form(const FormLook& look)
+    : look_(look),
+      shell_(new Shell(*this, windowFlags(look),
+                       QSize(pixels(look.Client.Width), pixels(look.Client.Height)),
+                       look.BorderStyle != Border::SizableToolWindow)) {
+  shell_->setObjectName(look.Name);
+  setCaption(look.Caption);
+}
+
+Form::~Form() {
+  Screen.forget(*this);
+  delete shell_;
+}
+
+QWidget* Form::host() {
+  return shell_->client();
+}
+
+QMenuBar* Form::menuBar() {
+  return shell_->menuBar();
+}
+
+std::string Form::Caption() const {
+  return bytesOf(shell_->accessibleName());
+}
+
+void Form::setCaption(const std::string& caption) {
+  // Qt takes "[*]" in a title for its mark of a changed document; doubled it stands for itself.
+  shell_->setWindowTitle(shown(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+  shell_->setAccessibleName(shown(caption));
+}
+
+bool Form::Visible() const {
+  return shell_->isVisible();
+}
+
+WindowState Form::WindowState() const {
+  if (shell_->isMinimized()) return forms::WindowState::Minimised;
+  return shell_->isMaximized() ? forms::WindowState::Maximised : forms::WindowState::Normal;
+}
+
+void Form::setMousePointer(Pointer pointer) {
+  if (pointer == pointer_) return;
+  pointer_ = pointer;
+  if (pointer == vbHourglass) {
+    if (shell_->cursor().shape() != Qt::WaitCursor) shell_->setCursor(Qt::WaitCursor);
+    return;
+  }
+  if (std::exchange(pointerPending_, true)) return;
+  QMetaObject::invokeMethod(
+      shell_,
+      [this] {
+        pointerPending_ = false;
+        if (pointer_ == vbDefault) shell_->unsetCursor();
+      },
+      Qt::QueuedConnection);
+}
+
+void Form::Show() {
+  place(nullptr);
+  present();
+}
+
+void Form::Show(Mode mode, Form& owner) {
+  place(owner.Visible() ? &owner : nullptr);
+  if (mode == vbModeless) return present();
+  QEventLoop loop;
+  shell_->loop = &loop;
+  shell_->setWindowModality(Qt::ApplicationModal);
+  modal_ = true;
+  present();
+  // Nothing of the form is touched behind the loop: it may have been unloaded and be gone.
+  if (shell_->loop) loop.exec();
+}
+
+void Form::place(const Form* owner) {
+  if (!placed_) shell_->fitToClient();
+  if (owner) {
+    shell_->winId();
+    shell_->windowHandle()->setTransientParent(owner->shell_->windowHandle());
+  }
+  const QSize size = shell_->size();
+  if (look_.Position == StartUpPosition::CentreOwner && owner) {
+    const QPoint centre = owner->shell_->frameGeometry().center();
+    shell_->move(centre - QPoint(size.width() / 2, size.height() / 2));
+  } else if (!placed_) {
+    if (look_.Position == StartUpPosition::Manual) {
+      shell_->setGeometry(QRect(QPoint(pixels(look_.At.Left), pixels(look_.At.Top)), size));
+    } else if (look_.Position != StartUpPosition::System) {
+      const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
+      shell_->move(centre - QPoint(size.width() / 2, size.height() / 2));
+    }
+  }
+  placed_ = true;
+}
+
+void Form::present() {
+  const bool wasVisible = Visible();
+  shell_->show();
+  if (!wasVisible) shell_->focusFirst();
+  shell_->activateWindow();
+  Screen.show(*this);
+}
+
+void Form::Hide() {
+  shell_->hide();
+  leave();
+}
+
+void Form::Refresh() {
+  shell_->repaint();
+}
+
+void Form::leave() {
+  modal_ = false;
+  Screen.forget(*this);
+  if (QEventLoop* loop = std::exchange(shell_->loop, nullptr)) loop->quit();
+}
+
+void Form::Unload() {
+  if (!std::exchange(loaded_, false)) return;
+  Form_Unload();
+  Hide();
+  Forms.remove(*this);
+}
+
+void Form::closeBox() {
+  if (!look_.ControlBox) return;
+  if (isToolWindow(look_)) return Hide();
+  Unload();
+}
+
+void Form::activated() {
+  // A desktop may still report a window that has been hidden meanwhile.
+  if (loaded_ && Visible()) Screen.activate(*this);
+}
+
+void FormCollection::add(std::unique_ptr<Form> form, std::function<void()> forget) {
+  Form& added = *form;
+  entries_.push_back({std::move(form), std::move(forget)});
+  added.loaded_ = true;
+  added.Form_Load();
+}
+
+void FormCollection::remove(Form& form) {
+  const auto entry = std::find_if(entries_.begin(), entries_.end(),
+                                  [&](const Entry& e) { return e.form.get() == &form; });
+  if (entry == entries_.end()) return;
+  entry->forget();
+  // The caller may be one of the form's own handlers, so the form goes when the event loop is back.
+  auto* grave = new Grave;
+  grave->form = std::move(entry->form);
+  grave->deleteLater();
+  entries_.erase(entry);
+  if (entries_.empty() && onLastUnloaded) onLastUnloaded();
+}
+
+void ScreenInfo::show(Form& form) {
+  if (form.modal_) modal_.push_back(&form);
+  active_ = &form;
+  form.Form_Activate();
+}
+
+void ScreenInfo::activate(Form& form) {
+  // A desktop may hand the focus to a window that a modal one blocks; that activates nothing.
+  if (active_ == &form || (!modal_.empty() && modal_.back() != &form)) return;
+  active_ = &form;
+  form.Form_Activate();
+}
+
+void ScreenInfo::forget(Form& form) {
+  std::erase(modal_, &form);
+  if (active_ != &form) return;
+  active_ = nullptr;
+  if (!modal_.empty()) return activate(*modal_.back());
+  for (int i = 0; i < Forms.Count(); ++i) {
+    if (Forms[i].Visible()) return activate(Forms[i]);
+  }
+}
+
+}  // namespace forms

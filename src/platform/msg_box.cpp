@@ -1,0 +1,72 @@
+#include "platform/msg_box.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/application.h"
+#include "platform/shell.h"
+#include "platform/text.h"
+
+namespace forms {
+
+namespace {
+
+std::function<Answer(const Message&)> answerer;
+
+QMessageBox::StandardButtons standardButtons(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::OKCancel:
+      return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::OK:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+Answer answerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    case QMessageBox::Cancel:
+      return Answer::Cancel;
+    default:
+      return Answer::OK;
+  }
+}
+
+QMessageBox::Icon iconOf(Icon icon) {
+  switch (icon) {
+    case Icon::Critical:
+      return QMessageBox::Critical;
+    case Icon::Information:
+      return QMessageBox::Information;
+    case Icon::None:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+Answer MsgBox(const Message& message) {
+  if (answerer) return answerer(message);
+  const QString title = message.title.empty() ? shown(App.Title) : shown(message.title);
+  Form* owner = Screen.ActiveForm();
+  QMessageBox box(iconOf(message.icon), title, shown(message.text),
+                  standardButtons(message.buttons),
+                  owner && owner->Visible() ? owner->host()->window() : nullptr);
+  box.setObjectName(QStringLiteral("MsgBox"));
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowModality(Qt::ApplicationModal);
+  return answerOf(box.exec());
+}
+
+void answerMessagesWith(std::function<Answer(const Message&)> answer) {
+  answerer = std::move(answer);
+}
+
+}  // namespace forms

@@ -1,0 +1,78 @@
+#include "platform/shell.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+#include "platform/form.h"
+
+namespace forms {
+
+Shell::Shell(Form& form, Qt::WindowFlags flags, QSize clientSize, bool fixedSize)
+    : QWidget(nullptr, flags),
+      form_(form),
+      client_(new QWidget(this)),
+      clientSize_(clientSize),
+      fixedSize_(fixedSize) {
+  fitToClient();
+}
+
+QMenuBar* Shell::menuBar() {
+  if (!menuBar_) {
+    menuBar_ = new QMenuBar(this);
+    menuBar_->setNativeMenuBar(false);
+  }
+  return menuBar_;
+}
+
+void Shell::fitToClient() {
+  const QSize whole = clientSize_ + QSize(0, menuBar_ ? menuBar_->sizeHint().height() : 0);
+  if (fixedSize_) setFixedSize(whole);
+  resize(whole);
+}
+
+void Shell::focusFirst() {
+  if (QWidget* last = focusWidget()) last->clearFocus();
+  focusNextPrevChild(true);
+  // A window of buttons starts at the one that Enter presses.
+  if (defaultButton && qobject_cast<QPushButton*>(focusWidget())) defaultButton->setFocus();
+}
+
+void Shell::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  form_.closeBox();
+}
+
+void Shell::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange && form_.loaded_) form_.Form_Resize();
+}
+
+void Shell::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const int top = menuBar_ ? menuBar_->sizeHint().height() : 0;
+  if (menuBar_) menuBar_->setGeometry(0, 0, width(), top);
+  client_->setGeometry(0, top, width(), height() - top);
+  if (form_.loaded_) form_.Form_Resize();
+}
+
+bool Shell::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) form_.activated();
+  return QWidget::event(event);
+}
+
+bool DialogKeys::eventFilter(QObject* receiver, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto* key = static_cast<QKeyEvent*>(event);
+  const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+  if (!enter && key->key() != Qt::Key_Escape) return false;
+  auto* widget = qobject_cast<QWidget*>(receiver);
+  // Lists that drop down are windows of their own, and an open menu bar leaves with Escape.
+  auto* shell = widget ? dynamic_cast<Shell*>(widget->window()) : nullptr;
+  if (!shell || qobject_cast<QMenuBar*>(widget)) return false;
+  QPushButton* button = enter ? shell->defaultButton : shell->cancelButton;
+  if (button && !key->isAutoRepeat()) button->click();
+  return true;
+}
+
+}  // namespace forms

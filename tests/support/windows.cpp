@@ -1,0 +1,190 @@
+#include "support/windows.h"
+
+#include <QAction>
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+
+#include <algorithm>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "mainwindow/frm_main.h"
+#include "picture/program_state.h"
+#include "platform/application.h"
+#include "platform/paths.h"
+#include "platform/settings.h"
+
+namespace mill::test {
+
+namespace {
+
+constexpr const char* kApplication = forms::Application::Title;
+
+}  // namespace
+
+TempFolder::TempFolder() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "mill-XXXXXX").string();
+  root_ = ::mkdtemp(pattern.data());
+}
+
+TempFolder::~TempFolder() {
+  std::error_code error;
+  std::filesystem::remove_all(root_, error);
+}
+
+std::string TempFolder::drive(const std::string& name) const {
+  return forms::drivePath(name.empty() ? root_.string() : (root_ / name).string());
+}
+
+void TempFolder::write(const std::string& name, const Bytes& bytes) const {
+  std::ofstream(root_ / name, std::ios::binary)
+      .write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));
+}
+
+Bytes readFile(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  return Bytes(std::istreambuf_iterator<char>(in), {});
+}
+
+Messages::Messages() {
+  forms::answerMessagesWith([this](const forms::Message& message) {
+    said.push_back(message);
+    if (meanwhile) meanwhile();
+    if (!answers.empty()) {
+      const forms::Answer answer = answers.front();
+      answers.erase(answers.begin());
+      return answer;
+    }
+    return message.buttons == forms::Buttons::YesNo ? forms::Answer::No : forms::Answer::OK;
+  });
+}
+
+Messages::~Messages() {
+  forms::answerMessagesWith({});
+}
+
+std::vector<std::string> Messages::texts() {
+  std::vector<std::string> texts;
+  for (const forms::Message& message : std::exchange(said, {})) texts.push_back(message.text);
+  return texts;
+}
+
+QWidget* window(const char* form) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == QLatin1String(form)) return widget;
+  }
+  return nullptr;
+}
+
+QAction* menuItem(const char* form, const char* name) {
+  return control<QAction>(form, name);
+}
+
+void press(const char* form, const char* button) {
+  QTest::mouseClick(control<QPushButton>(form, button), Qt::LeftButton);
+}
+
+void pressAndThen(const char* form, const char* button, std::function<void()> act) {
+  whenShown(std::move(act));
+  press(form, button);
+}
+
+NoMoreFiles::NoMoreFiles() {
+  rlimit limit{};
+  ::getrlimit(RLIMIT_NOFILE, &limit);
+  limit_ = std::exchange(limit.rlim_cur, 0);
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+NoMoreFiles::~NoMoreFiles() {
+  rlimit limit{};
+  ::getrlimit(RLIMIT_NOFILE, &limit);
+  limit.rlim_cur = limit_;
+  ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
+FullDisk::FullDisk(rlim_t size) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  const rlimit limit{size, RLIM_INFINITY};
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+FullDisk::~FullDisk() {
+  const rlimit limit{RLIM_INFINITY, RLIM_INFINITY};
+  ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+ColourTable tableOf(const model::Colours& colours) {
+  ColourTable table;
+  std::transform(colours.begin(), colours.end(), table.begin(), [](const model::Colour& c) {
+    return ColourEntry{c.red, c.green, c.blue, c.extra};
+  });
+  return table;
+}
+
+void settle() {
+  for (int i = 0; i < 3; ++i) {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+void WindowTest::reset() {
+  while (forms::Forms.Count() > 0) forms::Forms[forms::Forms.Count() - 1].Unload();
+  settle();
+  state = {};
+}
+
+MainWindowTest::MainWindowTest() {
+  std::filesystem::remove(forms::nativePath(forms::settingsFile(kApplication)));
+  for (const char* name : {"in", "out", "pal"}) folder.makeFolder(name);
+  // A folder without any file would not be taken as the source.
+  folder.write("in/readme.txt", {});
+  folder.write("pal/base.pal", model::paletteFile("24 bytes of some header.", colours));
+  set("Source", folder.drive("in"));
+  set("Dest", folder.drive("out"));
+  set("PalDir", folder.drive("pal"));
+  set("Palette", folder.drive("pal/base.pal"));
+  for (const char* flag : {"ShowPal", "ShowPrev", "AutoPrev", "AutoPal", "ResizeFit", "Search"}) {
+    set(flag, "False");
+  }
+}
+
+void MainWindowTest::set(const char* key, const std::string& value) {
+  forms::SaveSetting(kApplication, "Settings", key, value);
+}
+
+void MainWindowTest::start() {
+  frmMain->Show();
+  settle();
+}
+
+Bytes MainWindowTest::addPicture(const std::string& name, int seed) {
+  model::Kestrel picture{.width = 4, .height = 4, .dataSize = 16};
+  picture.pixels[0] = static_cast<std::uint8_t>(seed);
+  folder.write("in/" + name, model::kestrelBitmap(picture));
+  return model::kestrelBitmap(picture);
+}
+
+void MainWindowTest::select(const std::vector<std::string>& names) {
+  auto* list = control<QListView>("frmMain", "filSource");
+  Qt::KeyboardModifiers keys;
+  for (const std::string& name : names) {
+    const QModelIndexList found =
+        list->model()->match(list->model()->index(0, 0), Qt::DisplayRole,
+                             QString::fromStdString(name), 1, Qt::MatchExactly);
+    ASSERT_FALSE(found.isEmpty()) << name;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, std::exchange(keys, Qt::ControlModifier),
+                      list->visualRect(found.front()).center());
+  }
+}
+
+void MainWindowTest::convert(const char* button) {
+  pressAndThen("frmMain", button, [] { press("frmConvert", "cmdYes"); });
+}
+
+}  // namespace mill::test

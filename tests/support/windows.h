@@ -1,0 +1,154 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <sys/resource.h>
+#include <vector>
+
+#include "picture/picture_record.h"
+#include "platform/msg_box.h"
+#include "support/format_model.h"
+
+namespace mill::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// A new folder that goes with the object.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  std::filesystem::path path(const std::string& name = {}) const {
+    return name.empty() ? root_ : root_ / name;
+  }
+  /// The same in drive form.
+  std::string drive(const std::string& name = {}) const;
+  void write(const std::string& name, const Bytes& bytes) const;
+  void makeFolder(const std::string& name) const {
+    std::filesystem::create_directories(root_ / name);
+  }
+  bool exists(const std::string& name) const { return std::filesystem::exists(root_ / name); }
+
+ private:
+  std::filesystem::path root_;
+};
+
+Bytes readFile(const std::filesystem::path& path);
+
+/// Answers every message box as long as it lives, and keeps what they said. A message without a
+/// prepared answer gets OK, or No where it asks.
+class Messages {
+ public:
+  Messages();
+  ~Messages();
+
+  std::vector<forms::Message> said;
+  std::vector<forms::Answer> answers;
+  /// Called at each message, before it is answered.
+  std::function<void()> meanwhile;
+
+  /// The texts said since the last call.
+  std::vector<std::string> texts();
+};
+
+/// The visible or hidden window of a form, by its name.
+QWidget* window(const char* form);
+
+/// A control by its name; the test stops where there is none.
+template <class W = QWidget>
+W* control(const char* form, const char* name) {
+  W* found = window(form) ? window(form)->findChild<W*>(QString::fromUtf8(name)) : nullptr;
+  if (!found) {
+    ADD_FAILURE() << "no " << name << " in " << form;
+    std::abort();
+  }
+  return found;
+}
+
+/// A menu item by its name.
+QAction* menuItem(const char* form, const char* name);
+
+/// Presses a button of a form with the mouse.
+void press(const char* form, const char* button);
+
+/// Runs `act` when the next event loop runs, such as that of a window about to be shown modally.
+template <class Act>
+void whenShown(Act act) {
+  QTimer::singleShot(0, qApp, act);
+}
+
+/// Lets everything happen that waits in the event queue, deletions included.
+void settle();
+
+/// Presses a button that opens a modal window, and runs `act` in there.
+void pressAndThen(const char* form, const char* button, std::function<void()> act);
+
+/// Makes the next calls to open a file fail as long as it lives.
+class NoMoreFiles {
+ public:
+  NoMoreFiles();
+  ~NoMoreFiles();
+
+ private:
+  rlim_t limit_;
+};
+
+/// A disk that is full once a file has `size` bytes.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t size);
+  ~FullDisk();
+};
+
+/// The colours as the program holds them.
+ColourTable tableOf(const model::Colours& colours);
+
+/// Unloads all forms and empties the shared state before and after each test. Temporary files go
+/// to the test's own folder.
+class WindowTest : public ::testing::Test {
+ protected:
+  WindowTest() {
+    reset();
+    ::setenv("temp", folder.path().c_str(), 1);
+  }
+  ~WindowTest() override { reset(); }
+
+  TempFolder folder;
+  Messages messages;
+
+ private:
+  static void reset();
+};
+
+/// The main window over three folders of its own: "in" with the pictures, "out", "pal" with the
+/// default palette in it. All flags are off unless a test sets them before `start`.
+class MainWindowTest : public WindowTest {
+ protected:
+  MainWindowTest();
+
+  void set(const char* key, const std::string& value);
+  /// Creates and shows the window, as the program does.
+  void start();
+  /// A Kestrel Bitmap of 4 x 4 pixels in "in"; `seed` makes it another than the rest.
+  Bytes addPicture(const std::string& name, int seed = 0);
+  /// Clicks the names in the list, with Ctrl from the second one on.
+  void select(const std::vector<std::string>& names);
+  /// Converts the selection by the button, "Yes" included.
+  void convert(const char* button);
+
+  const model::Colours colours = model::someColours(3);
+};
+
+}  // namespace mill::test
