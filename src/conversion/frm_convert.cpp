@@ -1,0 +1,101 @@
+#include "conversion/frm_convert.h"
+
+#include "picture/fault.h"
+#include "picture/open_picture.h"
+#include "picture/program_state.h"
+#include "picture/write_bitmap.h"
+#include "platform/application.h"
+#include "platform/files.h"
+#include "platform/msg_box.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+ConvertForm::ConvertForm()
+    : Form({.Name = "frmConvert",
+            .Caption = "Convert Bitmap",
+            .BorderStyle = forms::Border::FixedSingle,
+            .Client = {3975, 3015},
+            .Position = forms::StartUpPosition::CentreOwner,
+            .ControlBox = false}) {}
+
+ConvertForm::~ConvertForm() {
+  if (conversionProgress == this) conversionProgress = nullptr;
+}
+
+void ConvertForm::Form_Load() {
+  Progress1.setValue(0);
+  Progress2.setValue(0);
+  count.current = 0;
+  conversionProgress = this;
+}
+
+void ConvertForm::incProgress(std::int16_t num, std::int32_t times) {
+  count.report(num, times, [this](std::int32_t percent) { Progress1.setValue(percent); });
+}
+
+void ConvertForm::incOpenProgress(std::int16_t num, std::int32_t times) {
+  count.report(num, times, [this](std::int32_t percent) { Progress2.setValue(percent); });
+}
+
+bool ConvertForm::isActive() const {
+  const forms::Form* active = forms::Screen.ActiveForm();
+  return active && active->hWnd() == hWnd();
+}
+
+void ConvertForm::cmdYes_Click() {
+  if (directoriesAreOne()) return Hide();
+  enableButtons(false);
+  convertSelection();
+  state.PictureFileName.clear();
+  enableButtons(true);
+  Hide();
+}
+
+/// Every picture would be written over itself; said once, and not for each of them.
+bool ConvertForm::directoriesAreOne() const {
+  if (!forms::isSame(sourceDirectory(), destinationDirectory())) return false;
+  forms::MsgBox({.text = std::string(message(Fault::SameDirectory)),
+                 .title = "Warning!",
+                 .icon = forms::Icon::Information});
+  return true;
+}
+
+void ConvertForm::enableButtons(bool enabled) {
+  cmdYes.setEnabled(enabled);
+  cmdNo.setEnabled(enabled);
+  if (!enabled) Refresh();
+}
+
+void ConvertForm::convertSelection() {
+  for (std::int32_t i = 0; i < state.SelectedCount; ++i) {
+    const bool written = convertFile(state.SelectedFiles[static_cast<std::size_t>(i)]);
+    const bool more = i + 1 < state.SelectedCount;
+    if (!written && more &&
+        forms::MsgBox({.text = "Go on with the remaining pictures?",
+                       .title = "Warning!",
+                       .buttons = forms::Buttons::YesNo,
+                       .icon = forms::Icon::Critical}) == forms::Answer::No) {
+      return;
+    }
+  }
+}
+
+/// False where a bitmap couldn't be written; a picture that was refused isn't tried.
+bool ConvertForm::convertFile(const std::string& name) {
+  Progress2.setValue(100);
+  Progress1.setValue(0);
+  if (name != state.PictureFileName) {
+    count.current = 0;
+    OpenPicture(forms::join(sourceDirectory(), name));
+  }
+  bool written = true;
+  if (name == state.PictureFileName) {
+    count.current = 0;
+    written = WriteBitmap(forms::join(destinationDirectory(), name));
+  }
+  Progress2.setValue(0);
+  return written;
+}
+
+}  // namespace mill

@@ -1,0 +1,37 @@
+#include "dialogs/frm_save.h"
+
+#include "picture/program_state.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+SaveForm::SaveForm()
+    : Form({.Name = "frmSave",
+            .Caption = "Save File",
+            .BorderStyle = forms::Border::FixedDialog,
+            .Client = {5985, 3495},
+            .Position = forms::StartUpPosition::CentreOwner}) {}
+
+void SaveForm::Form_Activate() {
+  if (!state.BrowseResult.empty()) {
+    const std::string seed = forms::drivePath(state.BrowseResult);
+    Drive1.setDrive(seed.substr(0, 2));
+    Dir1.setPath(seed.substr(0, seed.rfind('\\') + 1));
+  }
+  File1.setPattern(state.FilePattern);
+}
+
+void SaveForm::cmdOK_Click() {
+  if (txtFilename.Text().empty()) return;
+  state.BrowseResult = Dir1.Path();
+  state.FileResult = txtFilename.Text();
+  Hide();
+}
+
+void SaveForm::cmdCancel_Click() {
+  state.BrowseResult.clear();
+  state.FileResult.clear();
+  Hide();
+}
+
+}  // namespace mill

@@ -1,0 +1,63 @@
+#include "mainwindow/frm_main.h"
+
+#include "conversion/frm_convert.h"
+#include "mainwindow/program_settings.h"
+#include "palette/load_palette.h"
+#include "picture/program_state.h"
+#include "platform/application.h"
+#include "platform/files.h"
+
+namespace mill {
+
+MainForm::MainForm()
+    : Form({.Name = "frmMain",
+            .Caption = "Raster Mill",
+            .BorderStyle = forms::Border::FixedSingle,
+            .Client = {8535, 4815},
+            .Position = forms::StartUpPosition::CentreScreen,
+            .MinButton = true}) {}
+
+void MainForm::Form_Load() {
+  readSettings();
+  if (!forms::hasFiles(state.SourceDir)) state.SourceDir = forms::App.Path();
+  frmConvert.Load();
+  frmConvert->sourceDirectory = [this] { return filSource.Path(); };
+  frmConvert->destinationDirectory = [this] { return lstDest.Text(); };
+  fillBoxes();
+  loadDefaultPalette();
+  setCheckBoxes();
+}
+
+void MainForm::fillBoxes() {
+  const auto fill = [](forms::ComboBox& box, const std::string& value) {
+    box.AddItem(value);
+    box.setText(value);
+  };
+  fill(lstSource, state.SourceDir);
+  fill(lstDest, state.DestDir);
+  fill(lstPalette, state.PalDir);
+  fill(lstDefault, state.DefaultPalette);
+}
+
+void MainForm::loadDefaultPalette() {
+  state.CurrentPaletteFile = state.DefaultPalette;
+  LoadPalette();
+  lblPalFile.setCaption(state.CurrentPaletteFile);
+}
+
+void MainForm::setCheckBoxes() {
+  chkPal.setValue(state.ShowPal);
+  chkPrev.setValue(state.ShowPrev);
+  chkAutoPrev.setValue(state.AutoPrev);
+  chkAutoPal.setValue(state.AutoPal);
+  chkResize.setValue(state.ResizeFit);
+  chkSearch.setValue(state.Search);
+}
+
+void MainForm::Form_Unload() {
+  // The last loaded goes first; this window is the first of all.
+  for (int i = forms::Forms.Count() - 1; i >= 1; --i) forms::Forms[i].Unload();
+  writeSettings();
+}
+
+}  // namespace mill

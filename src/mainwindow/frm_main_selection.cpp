@@ -1,0 +1,111 @@
+#include "dialogs/frm_browse.h"
+#include "dialogs/frm_file_browse.h"
+#include "mainwindow/frm_main.h"
+#include "picture/fault.h"
+#include "picture/program_state.h"
+#include "platform/msg_box.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+namespace {
+
+/// Makes `entry` the box's text, and one of its entries if it isn't yet.
+void pick(forms::ComboBox& box, const std::string& entry) {
+  int index = 0;
+  while (index < box.ListCount() && box.List(index) != entry) ++index;
+  if (index == box.ListCount()) box.AddItem(entry);
+  box.setText(entry);
+}
+
+}  // namespace
+
+void MainForm::warnIfDirectoriesAreOne() {
+  if (lstDest.Text() != lstSource.Text()) return;
+  forms::MsgBox({.text = std::string(message(Fault::SameDirectory)),
+                 .title = "Warning!",
+                 .icon = forms::Icon::Information});
+}
+
+void MainForm::lstSource_Change() {
+  warnIfDirectoriesAreOne();
+  filSource.setPath(lstSource.Text());
+}
+
+void MainForm::filSource_Click() {
+  recordSelection();
+  if (state.SelectedCount == 1) return offerCommandsForOne();
+  enableOpen(false);
+  enableConvert(false);
+  enableBatch(state.SelectedCount > 1);
+  enableInfo(false);
+}
+
+void MainForm::recordSelection() {
+  std::size_t count = 0;
+  for (int i = 0; i < filSource.ListCount(); ++i) {
+    if (!filSource.Selected(i)) continue;
+    state.SelectedFiles.resize(++count);
+    state.SelectedFiles.back() = filSource.List(i);
+  }
+  state.SelectedCount = static_cast<std::int32_t>(count);
+}
+
+void MainForm::offerCommandsForOne() {
+  if (state.PictureFileName != filSource.FileName()) {
+    enableOpen(true);
+    enableConvert(true);
+    enableInfo(false);
+    if (state.AutoPrev) cmdOpen_Click();
+  } else {
+    enableOpen(false);
+    enableInfo(true);
+    enableConvert(!state.IsStandardBitmap);
+  }
+  enableBatch(false);
+  if (!state.ShowPrev) enableOpen(false);
+}
+
+void MainForm::filSource_DblClick() {
+  if (state.SelectedCount == 1 && state.PictureFileName == filSource.FileName() &&
+      !state.IsStandardBitmap) {
+    cmdConvert_Click();
+  }
+  // A conversion leaves no picture open, so that the same file is opened again here.
+  if (state.SelectedCount == 1 && state.PictureFileName != filSource.FileName()) cmdOpen_Click();
+}
+
+void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::string& directory) {
+  frmBrowse->setCaption(caption);
+  state.BrowseResult = box.Text();
+  frmBrowse->Show(forms::vbModal, *this);
+  if (state.BrowseResult.empty()) return;
+  pick(box, state.BrowseResult);
+  directory = box.Text();
+}
+
+void MainForm::cmdSourceBrowse_Click() {
+  chooseDirectory("Browse for Source Directory", lstSource, state.SourceDir);
+}
+
+void MainForm::cmdDestBrowse_Click() {
+  chooseDirectory("Browse for Destination Directory", lstDest, state.DestDir);
+}
+
+void MainForm::cmdBrowsePal_Click() {
+  chooseDirectory("Browse for Palette Directory", lstPalette, state.PalDir);
+}
+
+void MainForm::cmdBrowseDefault_Click() {
+  frmFileBrowse->setCaption("Browse for Palette File");
+  state.BrowseResult = lstDefault.Text();
+  state.FileResult.clear();
+  state.FilePattern = "*.pal";
+  frmFileBrowse->Show(forms::vbModal, *this);
+  if (state.BrowseResult.empty() || state.FileResult.empty()) return;
+  state.FileResult = forms::join(state.BrowseResult, state.FileResult);
+  pick(lstDefault, state.FileResult);
+  state.DefaultPalette = state.FileResult;
+}
+
+}  // namespace mill

@@ -1,0 +1,51 @@
+#include "palette/load_palette.h"
+
+#include <algorithm>
+#include <array>
+
+#include "palette/palette_file.h"
+#include "picture/fault.h"
+#include "picture/program_state.h"
+#include "platform/files.h"
+#include "platform/msg_box.h"
+
+namespace mill {
+
+namespace {
+
+void tell(Fault fault) {
+  forms::MsgBox({.text = std::string(message(fault))});
+}
+
+Fault readCurrentPalette() {
+  if (!forms::isNormalFile(state.CurrentPaletteFile)) return Fault::PaletteMissing;
+  forms::InputFile file(state.CurrentPaletteFile);
+  if (!file.isOpen()) return Fault::PaletteUnreadable;
+  std::array<std::uint8_t, kPaletteFileSize> bytes{};
+  const auto size = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), bytes.size()));
+  const auto there = std::span(bytes).first(size);
+  if (!file.read(there)) return Fault::PaletteUnreadable;
+  return readPalette(there, state.PaletteHeader, state.PaletteTable);
+}
+
+bool writeCurrentPalette() {
+  const auto bytes = paletteBytes(state.PaletteHeader, state.PaletteTable);
+  forms::OutputFile file(state.CurrentPaletteFile, static_cast<std::int64_t>(bytes.size()));
+  return file.isOpen() && file.write(bytes) && file.close();
+}
+
+}  // namespace
+
+void LoadPalette() {
+  if (const Fault fault = readCurrentPalette(); fault != Fault::None) tell(fault);
+}
+
+void SavePalette() {
+  if (writeCurrentPalette()) return;
+  const std::string text(message(Fault::PaletteUnwritable));
+  forms::MsgBox({.text = text + "\n" + state.CurrentPaletteFile,
+                 .title = "Warning!",
+                 .icon = forms::Icon::Critical});
+}
+
+}  // namespace mill

@@ -1,0 +1,138 @@
+#include "picture/open_picture.h"
+
+#include <array>
+#include <utility>
+
+#include "palette/load_palette.h"
+#include "picture/conversion_progress.h"
+#include "picture/fault.h"
+#include "picture/kestrel_bitmap.h"
+#include "picture/program_state.h"
+#include "picture/standard_bitmap.h"
+#include "platform/application.h"
+#include "platform/environment.h"
+#include "platform/files.h"
+#include "platform/msg_box.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+namespace {
+
+using Magic = std::array<std::uint8_t, 2>;
+
+/// The file of a picture, read on from behind its first two characters.
+class PictureFile {
+ public:
+  explicit PictureFile(const std::string& path) : file_(path) {}
+
+  /// A file of fewer than two bytes is of no known kind: its characters stay 0.
+  Fault readMagic(Magic& magic) {
+    if (!file_.isOpen()) return Fault::PictureUnreadable;
+    if (file_.size() < 2) return Fault::None;
+    return file_.read(magic) ? Fault::None : Fault::PictureUnreadable;
+  }
+
+  /// The head that begins with `magic`; `missing` where the file ends before.
+  template <std::size_t size>
+  Fault readHead(const Magic& magic, std::array<std::uint8_t, size>& head, Fault missing) {
+    if (file_.size() < static_cast<std::int64_t>(size)) return missing;
+    std::copy(magic.begin(), magic.end(), head.begin());
+    return file_.read(std::span(head).template subspan<2>()) ? Fault::None
+                                                             : Fault::PictureUnreadable;
+  }
+
+  std::int64_t size() const { return file_.size(); }
+  ReadBytes rest() {
+    return [this](std::span<std::uint8_t> bytes) { return file_.read(bytes); };
+  }
+
+ private:
+  forms::InputFile file_;
+};
+
+void refuse(Fault fault) {
+  forms::MsgBox(
+      {.text = std::string(message(fault)), .title = "Warning!", .icon = forms::Icon::Critical});
+}
+
+bool wantsStandardBitmap() {
+  return forms::MsgBox({.text = "This file is a standard bitmap file.\n"
+                                "Are you sure you want to open it.",
+                        .buttons = forms::Buttons::YesNo,
+                        .icon = forms::Icon::Information}) == forms::Answer::Yes;
+}
+
+Fault readKestrel(PictureFile& file, const Magic& magic) {
+  std::array<std::uint8_t, kKestrelHeadSize> bytes{};
+  KestrelHead head;
+  Fault fault = file.readHead(magic, bytes, Fault::PictureDamaged);
+  if (fault == Fault::None) fault = checkKestrelHead(bytes, file.size(), head);
+  if (fault != Fault::None) return fault;
+  fault = readKestrelBitmap(head, file.rest(), state.PictureRecord, openingProgress());
+  if (fault == Fault::None) state.IsStandardBitmap = false;
+  return fault;
+}
+
+/// The picture's own colours become the current palette, and stand in a palette file like any
+/// other.
+void takeColours() {
+  state.PaletteTable = state.PictureRecord.Colours;
+  state.CurrentPaletteFile = forms::join(forms::tempDirectory(), "bmp.pal");
+  SavePalette();
+}
+
+Fault readStandard(PictureFile& file, const Magic& magic) {
+  std::array<std::uint8_t, kBitmapHeadSize> bytes{};
+  BitmapHeader header;
+  Fault fault = file.readHead(magic, bytes, Fault::WrongShape);
+  if (fault == Fault::None) fault = checkStandardHead(bytes, file.size(), header);
+  if (fault != Fault::None) return fault;
+  fault = readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
+  if (fault != Fault::None) return fault;
+  state.IsStandardBitmap = true;
+  takeColours();
+  return Fault::None;
+}
+
+}  // namespace
+
+void OpenPicture(const std::string& path) {
+  if (!forms::isNormalFile(path)) return refuse(Fault::PictureMissing);
+
+  PictureFile file(path);
+  Magic magic{};
+  Fault fault;
+  {
+    const forms::Hourglass hourglass;
+    fault = file.readMagic(magic);
+  }
+  if (fault != Fault::None) return refuse(fault);
+
+  const bool standard = isStandardBitmap(magic);
+  if (!standard && !isKestrelBitmap(magic)) {
+    state.IsStandardBitmap = false;
+    return refuse(Fault::NotABitmap);
+  }
+  if (standard && !wantsStandardBitmap()) {
+    state.IsStandardBitmap = false;
+    return;
+  }
+
+  // No picture counts as open while this one is read.
+  std::string before = std::exchange(state.PictureFileName, {});
+  {
+    const forms::Hourglass hourglass;
+    fault = standard ? readStandard(file, magic) : readKestrel(file, magic);
+  }
+  if (fault != Fault::None) {
+    state.PictureFileName = std::move(before);
+    return refuse(fault);
+  }
+
+  state.PictureFileName = forms::fileNameOf(path);
+  state.PictureSourceFile = path;
+  state.TempPicturePath = forms::join(forms::tempDirectory(), "temp.bmp");
+}
+
+}  // namespace mill

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "picture/picture_record.h"
+
+namespace mill {
+
+/// All that the windows and routines share: one open picture, one palette, one set of flags.
+/// Every path is in drive form.
+struct ProgramState {
+  mill::PictureRecord PictureRecord;
+  /// The current palette; all zeros until the first one has been loaded.
+  ColourTable PaletteTable{};
+
+  std::string SourceDir;  ///< default source directory, a setting
+  std::string DestDir;    ///< destination directory, a setting
+  std::string PalDir;     ///< palette directory, a setting
+
+  /// Directory passed to and from the browse dialogs; empty on Cancel.
+  std::string BrowseResult;
+  /// File pattern for the next browse dialog with a file list.
+  std::string FilePattern;
+  /// File name without directory given back by the file dialogs; empty on Cancel.
+  std::string FileResult;
+
+  std::string CurrentPaletteFile;  ///< path of the palette in use
+  std::string DefaultPalette;      ///< path, a setting
+  /// The 24 bytes at the head of the palette file last read; empty before the first one.
+  std::string PaletteHeader;
+
+  std::string TempPicturePath;  ///< where the preview's bitmap is written
+  /// File name of the open picture, without directory; empty when none is open.
+  std::string PictureFileName;
+  /// Path of the file that `PictureRecord` was read from, which no output may land on; unlike the
+  /// name it stays after a conversion.
+  std::string PictureSourceFile;
+  bool IsStandardBitmap = false;
+
+  /// The selection in list order, names without directory. Only the first `SelectedCount` count.
+  std::vector<std::string> SelectedFiles;
+  std::int32_t SelectedCount = 0;
+
+  bool ShowPrev = false;   ///< the preview window is on
+  bool AutoPrev = false;   ///< selecting one file previews it
+  bool ShowPal = false;    ///< the swatch window is on
+  bool AutoPal = false;    ///< opening a picture looks for its palette
+  bool ResizeFit = false;  ///< the preview window takes the picture's size
+  bool Search = false;     ///< the palette search also looks in sub-directories
+};
+
+inline ProgramState state;
+
+}  // namespace mill
