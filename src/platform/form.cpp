@@ -60,11 +60,8 @@ QMenuBar* Form::menuBar() {
   return shell_->menuBar();
 }
 
-std::string Form::Caption() const {
-  return bytesOf(shell_->accessibleName());
-}
-
 void Form::setCaption(const std::string& caption) {
+  caption_ = caption;
   // Qt takes "[*]" in a title for its mark of a changed document; doubled it stands for itself.
   shell_->setWindowTitle(shown(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
   shell_->setAccessibleName(shown(caption));

@@ -75,7 +75,7 @@ class Form : public Container {
   /// Paints the window now, for a handler that won't be back in the event loop for a while.
   void Refresh();
 
-  std::string Caption() const;
+  const std::string& Caption() const { return caption_; }
   void setCaption(const std::string& caption);
   bool Visible() const;
   forms::WindowState WindowState() const;
@@ -109,6 +109,7 @@ class Form : public Container {
 
   const FormLook look_;
   Shell* shell_;
+  std::string caption_;
   Pointer pointer_ = vbDefault;
   bool loaded_ = false;
   bool placed_ = false;

@@ -1,0 +1,80 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOption>
+
+#include "conversion/frm_convert.h"
+#include "dialogs/frm_browse.h"
+#include "dialogs/frm_file_browse.h"
+#include "dialogs/frm_save.h"
+#include "mainwindow/frm_main.h"
+#include "support/windows.h"
+
+namespace mill {
+namespace {
+
+int textWidth(const QWidget* widget, const QString& text) {
+  return widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
+}
+
+/// The room in pixels that a caption has beyond its need; below 0 it is cut.
+int spareRoom(const QWidget* widget) {
+  if (const auto* button = qobject_cast<const QPushButton*>(widget)) {
+    return button->width() - 4 - textWidth(button, button->text());
+  }
+  if (const auto* box = qobject_cast<const QCheckBox*>(widget)) {
+    QStyleOptionButton option;
+    option.initFrom(box);
+    const QRect room = box->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, box);
+    return room.width() - textWidth(box, box->text());
+  }
+  if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+    const QRect need =
+        label->fontMetrics().boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text());
+    return std::min(label->height() - need.height(), label->width() - need.width());
+  }
+  return 0;
+}
+
+/// The controls that a window's own code placed, without the parts that they are made of.
+std::vector<const QWidget*> controls(const char* form) {
+  std::vector<const QWidget*> controls;
+  for (const QWidget* widget : test::window(form)->findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    if (!widget->isWindow() && !name.isEmpty() && !name.startsWith(QLatin1String("qt_")))
+      controls.push_back(widget);
+  }
+  return controls;
+}
+
+void expectRoomForAll(const char* form) {
+  for (const QWidget* widget : controls(form)) {
+    const std::string name = std::string(form) + "." + widget->objectName().toStdString();
+    EXPECT_GE(spareRoom(widget), 0) << name;
+    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+    for (const QWidget* other : controls(form)) {
+      const bool neighbours = other != widget && other->parent() == widget->parent();
+      // Neighbours may share the line between them.
+      const QRect inside = widget->geometry().adjusted(1, 1, -1, -1);
+      EXPECT_FALSE(neighbours && inside.intersects(other->geometry()))
+          << name << " lies over " << other->objectName().toStdString();
+    }
+  }
+}
+
+using Captions = test::WindowTest;
+
+TEST_F(Captions, NoneIsCutAndNoControlLiesOverAnother) {
+  frmMain->Show();
+  frmConvert->Show();
+  frmBrowse->Show();
+  frmFileBrowse->Show();
+  frmSave->Show();
+  for (const char* form : {"frmMain", "frmConvert", "frmBrowse", "frmFileBrowse", "frmSave"}) {
+    expectRoomForAll(form);
+  }
+}
+
+}  // namespace
+}  // namespace mill
