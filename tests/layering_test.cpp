@@ -49,6 +49,7 @@ int level(const std::string& path) {
   if (folder == "platform") return 0;
   if (stem(path) == "picture/program_state" || stem(path) == "picture/conversion_progress")
     return 1;
+  if (stem(path) == "picture/warn") return 1;
   if (stem(path) == "palette/load_palette") return 2;
   if (folder == "picture") return 3;
   if (folder == "conversion" || folder == "dialogs") return 4;

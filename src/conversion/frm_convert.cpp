@@ -1,8 +1,8 @@
 #include "conversion/frm_convert.h"
 
-#include "picture/fault.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
+#include "picture/warn.h"
 #include "picture/write_bitmap.h"
 #include "platform/application.h"
 #include "platform/files.h"
@@ -55,9 +55,7 @@ void ConvertForm::cmdYes_Click() {
 /// Every picture would be written over itself; said once, and not for each of them.
 bool ConvertForm::directoriesAreOne() const {
   if (!forms::isSame(sourceDirectory(), destinationDirectory())) return false;
-  forms::MsgBox({.text = std::string(message(Fault::SameDirectory)),
-                 .title = "Warning!",
-                 .icon = forms::Icon::Information});
+  warn(Fault::SameDirectory);
   return true;
 }
 
@@ -73,7 +71,7 @@ void ConvertForm::convertSelection() {
     const bool more = i + 1 < state.SelectedCount;
     if (!written && more &&
         forms::MsgBox({.text = "Go on with the remaining pictures?",
-                       .title = "Warning!",
+                       .title = kWarning,
                        .buttons = forms::Buttons::YesNo,
                        .icon = forms::Icon::Critical}) == forms::Answer::No) {
       return;
@@ -87,7 +85,10 @@ bool ConvertForm::convertFile(const std::string& name) {
   Progress1.setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
+    // A refusal may change the flag, but the picture that stays open may yet come up in this run.
+    const bool wasStandard = state.IsStandardBitmap;
     OpenPicture(forms::join(sourceDirectory(), name));
+    if (name != state.PictureFileName) state.IsStandardBitmap = wasStandard;
   }
   bool written = true;
   if (name == state.PictureFileName) {

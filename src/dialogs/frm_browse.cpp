@@ -1,7 +1,7 @@
 #include "dialogs/frm_browse.h"
 
+#include "dialogs/start_place.h"
 #include "picture/program_state.h"
-#include "platform/paths.h"
 
 namespace mill {
 
@@ -13,10 +13,7 @@ BrowseForm::BrowseForm()
             .Position = forms::StartUpPosition::CentreOwner}) {}
 
 void BrowseForm::Form_Activate() {
-  if (state.BrowseResult.empty()) return;
-  const std::string seed = forms::drivePath(state.BrowseResult);
-  Drive1.setDrive(seed.substr(0, 2));
-  Dir1.setPath(seed);
+  if (!state.BrowseResult.empty()) startAt(Drive1, Dir1, state.BrowseResult);
 }
 
 void BrowseForm::OKButton_Click() {

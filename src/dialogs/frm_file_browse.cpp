@@ -1,7 +1,7 @@
 #include "dialogs/frm_file_browse.h"
 
+#include "dialogs/start_place.h"
 #include "picture/program_state.h"
-#include "platform/paths.h"
 
 namespace mill {
 
@@ -14,11 +14,7 @@ FileBrowseForm::FileBrowseForm()
             .At = {2760, 3750}}) {}
 
 void FileBrowseForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) {
-    const std::string seed = forms::drivePath(state.BrowseResult);
-    Drive1.setDrive(seed.substr(0, 2));
-    Dir1.setPath(seed.substr(0, seed.rfind('\\') + 1));
-  }
+  if (!state.BrowseResult.empty()) startAtFile(Drive1, Dir1, state.BrowseResult);
   File1.setPattern(state.FilePattern);
 }
 

@@ -1,7 +1,7 @@
 #include "dialogs/frm_save.h"
 
+#include "dialogs/start_place.h"
 #include "picture/program_state.h"
-#include "platform/paths.h"
 
 namespace mill {
 
@@ -13,11 +13,7 @@ SaveForm::SaveForm()
             .Position = forms::StartUpPosition::CentreOwner}) {}
 
 void SaveForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) {
-    const std::string seed = forms::drivePath(state.BrowseResult);
-    Drive1.setDrive(seed.substr(0, 2));
-    Dir1.setPath(seed.substr(0, seed.rfind('\\') + 1));
-  }
+  if (!state.BrowseResult.empty()) startAtFile(Drive1, Dir1, state.BrowseResult);
   File1.setPattern(state.FilePattern);
 }
 

@@ -1,9 +1,8 @@
 #include "dialogs/frm_browse.h"
 #include "dialogs/frm_file_browse.h"
 #include "mainwindow/frm_main.h"
-#include "picture/fault.h"
 #include "picture/program_state.h"
-#include "platform/msg_box.h"
+#include "picture/warn.h"
 #include "platform/paths.h"
 
 namespace mill {
@@ -21,10 +20,7 @@ void pick(forms::ComboBox& box, const std::string& entry) {
 }  // namespace
 
 void MainForm::warnIfDirectoriesAreOne() {
-  if (lstDest.Text() != lstSource.Text()) return;
-  forms::MsgBox({.text = std::string(message(Fault::SameDirectory)),
-                 .title = "Warning!",
-                 .icon = forms::Icon::Information});
+  if (lstDest.Text() == lstSource.Text()) warn(Fault::SameDirectory);
 }
 
 void MainForm::lstSource_Change() {

@@ -1,8 +1,10 @@
 #include "mainwindow/program_settings.h"
 
 #include <string>
+#include <vector>
 
 #include "picture/program_state.h"
+#include "picture/warn.h"
 #include "platform/application.h"
 #include "platform/msg_box.h"
 #include "platform/paths.h"
@@ -62,7 +64,7 @@ void writeSettings() {
   }
   if (!saved) {
     forms::MsgBox({.text = "The settings can't be saved.\n" + forms::settingsFile(app),
-                   .title = "Warning!",
+                   .title = kWarning,
                    .icon = forms::Icon::Critical});
   }
 }

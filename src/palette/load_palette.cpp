@@ -4,8 +4,8 @@
 #include <array>
 
 #include "palette/palette_file.h"
-#include "picture/fault.h"
 #include "picture/program_state.h"
+#include "picture/warn.h"
 #include "platform/files.h"
 #include "platform/msg_box.h"
 
@@ -42,10 +42,7 @@ void LoadPalette() {
 
 void SavePalette() {
   if (writeCurrentPalette()) return;
-  const std::string text(message(Fault::PaletteUnwritable));
-  forms::MsgBox({.text = text + "\n" + state.CurrentPaletteFile,
-                 .title = "Warning!",
-                 .icon = forms::Icon::Critical});
+  warn(Fault::PaletteUnwritable, state.CurrentPaletteFile);
 }
 
 }  // namespace mill

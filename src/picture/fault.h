@@ -4,7 +4,7 @@
 
 namespace mill {
 
-/// What can go wrong with a picture or palette file. One fault, one message.
+/// What can go wrong with pictures, palettes and where they go. One fault, one message.
 enum class Fault {
   None,
   PictureMissing,

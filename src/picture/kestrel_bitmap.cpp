@@ -98,6 +98,7 @@ Fault readKestrelBitmap(const KestrelHead& head, const ReadBytes& read, PictureR
   progress.report(kKestrelFrameSize);
 
   PixelArray pixels(dataSize + 1);
+  if (pixels.size() == 0) return Fault::PictureUnreadable;
   if (!readReported(pixels.bytes().first(dataSize), read, progress))
     return Fault::PictureUnreadable;
   pixels.bytes().back() = 0;

@@ -1,14 +1,15 @@
 #include "picture/open_picture.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include "palette/load_palette.h"
 #include "picture/conversion_progress.h"
-#include "picture/fault.h"
 #include "picture/kestrel_bitmap.h"
 #include "picture/program_state.h"
 #include "picture/standard_bitmap.h"
+#include "picture/warn.h"
 #include "platform/application.h"
 #include "platform/environment.h"
 #include "platform/files.h"
@@ -51,11 +52,6 @@ class PictureFile {
   forms::InputFile file_;
 };
 
-void refuse(Fault fault) {
-  forms::MsgBox(
-      {.text = std::string(message(fault)), .title = "Warning!", .icon = forms::Icon::Critical});
-}
-
 bool wantsStandardBitmap() {
   return forms::MsgBox({.text = "This file is a standard bitmap file.\n"
                                 "Are you sure you want to open it.",
@@ -89,30 +85,28 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
   if (fault == Fault::None) fault = checkStandardHead(bytes, file.size(), header);
   if (fault != Fault::None) return fault;
   fault = readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
-  if (fault != Fault::None) return fault;
-  state.IsStandardBitmap = true;
-  takeColours();
-  return Fault::None;
+  if (fault == Fault::None) state.IsStandardBitmap = true;
+  return fault;
 }
 
 }  // namespace
 
 void OpenPicture(const std::string& path) {
-  if (!forms::isNormalFile(path)) return refuse(Fault::PictureMissing);
+  if (!forms::isNormalFile(path)) return warn(Fault::PictureMissing);
 
   PictureFile file(path);
   Magic magic{};
-  Fault fault;
+  Fault fault = Fault::None;
   {
     const forms::Hourglass hourglass;
     fault = file.readMagic(magic);
   }
-  if (fault != Fault::None) return refuse(fault);
+  if (fault != Fault::None) return warn(fault);
 
   const bool standard = isStandardBitmap(magic);
   if (!standard && !isKestrelBitmap(magic)) {
     state.IsStandardBitmap = false;
-    return refuse(Fault::NotABitmap);
+    return warn(Fault::NotABitmap);
   }
   if (standard && !wantsStandardBitmap()) {
     state.IsStandardBitmap = false;
@@ -127,8 +121,9 @@ void OpenPicture(const std::string& path) {
   }
   if (fault != Fault::None) {
     state.PictureFileName = std::move(before);
-    return refuse(fault);
+    return warn(fault);
   }
+  if (standard) takeColours();
 
   state.PictureFileName = forms::fileNameOf(path);
   state.PictureSourceFile = path;

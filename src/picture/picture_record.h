@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 
@@ -23,12 +24,13 @@ inline constexpr int kColours = 256;
 using ColourTable = std::array<ColourEntry, kColours>;
 
 /// The pixel bytes of a picture, left unset when they are made, because whoever makes them fills
-/// them: a picture of 64 MB is touched once and not twice.
+/// them: a picture of 64 MB is touched once and not twice. Without any elements where there isn't
+/// memory for them.
 class PixelArray {
  public:
   PixelArray() = default;
   explicit PixelArray(std::size_t size)
-      : bytes_(std::make_unique_for_overwrite<std::uint8_t[]>(size)), size_(size) {}
+      : bytes_(new (std::nothrow) std::uint8_t[size]), size_(bytes_ ? size : 0) {}
 
   std::size_t size() const { return size_; }
   std::span<std::uint8_t> bytes() { return {bytes_.get(), size_}; }

@@ -9,7 +9,7 @@
 namespace mill {
 
 /// All that the windows and routines share: one open picture, one palette, one set of flags.
-/// Every path is in drive form.
+/// Paths are in drive form, or as the user or the environment wrote them.
 struct ProgramState {
   mill::PictureRecord PictureRecord;
   /// The current palette; all zeros until the first one has been loaded.

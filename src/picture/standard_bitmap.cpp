@@ -19,6 +19,7 @@
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -31,6 +32,8 @@ namespace {
 
 constexpr std::size_t kTypeSize = 2;
 constexpr std::int32_t kInfoHeaderSize = 40;
+/// So that the size of the whole file, and all that is reported of it, is a 32-bit number.
+constexpr std::int32_t kMaxImageSize = std::numeric_limits<std::int32_t>::max() - kBitmapDataOffset;
 constexpr std::size_t kWriteChunk = 1 << 20;
 static_assert(kWriteChunk > kBitmapDataOffset, "the first write holds headers and colours whole");
 
@@ -91,6 +94,7 @@ void reportHeader(std::int16_t first, Progress& progress) {
 
 bool isWrongShape(const BitmapHeader& header, std::int64_t fileSize) {
   if (header.biBitCount != 8 || header.biSizeImage < 0) return true;
+  if (header.biSizeImage > kMaxImageSize) return true;
   if (fileSize < std::int64_t{kBitmapDataOffset} + header.biSizeImage) return true;
   // The smallest 32-bit number has its opposite in 64 bits only.
   const std::int64_t width = std::abs(std::int64_t{header.biWidth});
@@ -233,6 +237,7 @@ Fault readStandardBitmap(const BitmapHeader& header, const ReadBytes& read, Pict
   progress.report(kColourSize, kColours);
 
   PixelArray pixels(imageSize + 1);
+  if (pixels.size() == 0) return Fault::PictureUnreadable;
   if (!readReported(pixels.bytes().first(imageSize), read, progress)) {
     return Fault::PictureUnreadable;
   }
@@ -249,8 +254,7 @@ Fault readStandardBitmap(const BitmapHeader& header, const ReadBytes& read, Pict
 
 void fillOutputHeader(BitmapHeader& header) {
   header.bfType = "BM";
-  // In 64 bits, because `biSizeImage` may come from a standard bitmap of any size.
-  header.bfSize = static_cast<std::int32_t>(std::int64_t{header.biSizeImage} + kBitmapDataOffset);
+  header.bfSize = header.biSizeImage + kBitmapDataOffset;
   header.bfReserved1 = 0;
   header.bfReserved2 = 0;
   header.bfOffBits = kBitmapDataOffset;

@@ -3,12 +3,11 @@
 #include <limits>
 
 #include "picture/conversion_progress.h"
-#include "picture/fault.h"
 #include "picture/program_state.h"
 #include "picture/standard_bitmap.h"
+#include "picture/warn.h"
 #include "platform/application.h"
 #include "platform/files.h"
-#include "platform/msg_box.h"
 
 namespace mill {
 
@@ -30,9 +29,7 @@ bool writeFile(const std::string& path, RowOrder rows, Progress& progress) {
 
 bool WriteBitmap(const std::string& path) {
   if (forms::isSame(path, state.PictureSourceFile)) {
-    forms::MsgBox({.text = std::string(message(Fault::SameDirectory)),
-                   .title = "Warning!",
-                   .icon = forms::Icon::Information});
+    warn(Fault::SameDirectory);
     return false;
   }
   Progress& progress = writingProgress();
@@ -43,9 +40,7 @@ bool WriteBitmap(const std::string& path) {
   state.PictureRecord.Colours = state.PaletteTable;
   const RowOrder rows = state.IsStandardBitmap ? RowOrder::AsStored : RowOrder::BottomUp;
   if (writeFile(path, rows, progress)) return true;
-  forms::MsgBox({.text = std::string(message(Fault::Unwritable)) + "\n" + path,
-                 .title = "Warning!",
-                 .icon = forms::Icon::Critical});
+  warn(Fault::Unwritable, path);
   return false;
 }
 

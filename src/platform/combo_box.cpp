@@ -6,6 +6,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <utility>
+
 #include "platform/text.h"
 
 namespace forms {
@@ -28,7 +30,7 @@ class CalmComboBox final : public QComboBox {
 
 ComboBox::ComboBox(Container& parent, const char* name, const Rect& place, Handler change,
                    Handler click)
-    : Control(parent, name, new CalmComboBox(parent.host()), place), change_(change) {
+    : Control(parent, name, new CalmComboBox(parent.host()), place), change_(std::move(change)) {
   borrowLabel(parent);
   auto* box = as<QComboBox>();
   box->setEditable(true);
@@ -38,7 +40,7 @@ ComboBox::ComboBox(Container& parent, const char* name, const Rect& place, Handl
   // When the typing ends on an entry's text, Qt would report that as a pick.
   QObject::disconnect(box->lineEdit(), &QLineEdit::editingFinished, box, nullptr);
   QObject::connect(box->lineEdit(), &QLineEdit::textEdited, [this] { change_(form_); });
-  QObject::connect(box, &QComboBox::activated, [this, click] { click(form_); });
+  QObject::connect(box, &QComboBox::activated, [this, click = std::move(click)] { click(form_); });
 }
 
 std::string ComboBox::Text() const {

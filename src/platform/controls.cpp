@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include <utility>
+
 #include "platform/shell.h"
 #include "platform/text.h"
 
@@ -109,13 +111,15 @@ CommandButton::CommandButton(Container& parent, const char* name, const char* ca
     button->setDefault(true);
   }
   if (traits & Cancel) shell->cancelButton = button;
-  QObject::connect(button, &QPushButton::clicked, [this, click] { click(form_); });
+  QObject::connect(button, &QPushButton::clicked,
+                   [this, click = std::move(click)] { click(form_); });
 }
 
 CheckBox::CheckBox(Container& parent, const char* name, const char* caption, const Rect& place,
                    Handler click, Trait traits)
     : Control(parent, name, new QCheckBox(shown(caption), parent.host()), place, traits) {
-  QObject::connect(as<QCheckBox>(), &QCheckBox::toggled, [this, click] { click(form_); });
+  QObject::connect(as<QCheckBox>(), &QCheckBox::toggled,
+                   [this, click = std::move(click)] { click(form_); });
 }
 
 int CheckBox::Value() const {
@@ -129,7 +133,8 @@ void CheckBox::setValue(int value) {
 TextBox::TextBox(Container& parent, const char* name, const Rect& place, Handler change)
     : Control(parent, name, new QLineEdit(parent.host()), place) {
   borrowLabel(parent);
-  QObject::connect(as<QLineEdit>(), &QLineEdit::textChanged, [this, change] { change(form_); });
+  QObject::connect(as<QLineEdit>(), &QLineEdit::textChanged,
+                   [this, change = std::move(change)] { change(form_); });
 }
 
 std::string TextBox::Text() const {

@@ -53,7 +53,7 @@ std::string DirTree::path() const {
   const QTreeWidgetItem* item = currentItem();
   if (!item) return {};
   std::string path = bytesOf(item->text(0));
-  while ((item = item->parent())) path = bytesOf(item->text(0)) + "\\" + path;
+  while ((item = item->parent())) path = join(bytesOf(item->text(0)), path);
   // The root item is the drive itself, "Z:\".
   if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
   return path;
@@ -107,7 +107,7 @@ void DirTree::fill(QTreeWidgetItem* item) {
   item->setData(0, kFilled, true);
   std::string path = bytesOf(item->text(0));
   for (auto* above = item->parent(); above; above = above->parent()) {
-    path = bytesOf(above->text(0)) + "\\" + path;
+    path = join(bytesOf(above->text(0)), path);
   }
   std::vector<std::string> names = directoriesIn(path);
   std::sort(names.begin(), names.end());

@@ -25,8 +25,8 @@ bool isPrivate(const std::filesystem::path& directory) {
 
 std::string ownDirectory() {
   std::string base = variable("XDG_CACHE_HOME");
-  if (base.empty()) base = variable("HOME") + "/.cache";
-  const std::filesystem::path own = base + "/raster-mill";
+  if (base.empty()) base = variable("HOME").append("/.cache");
+  const std::filesystem::path own = std::filesystem::path(base) / "raster-mill";
   std::error_code error;
   std::filesystem::create_directories(own, error);
   std::filesystem::permissions(own, std::filesystem::perms::owner_all, error);

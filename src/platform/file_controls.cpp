@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <filesystem>
+#include <utility>
 
 #include "platform/dir_tree.h"
 #include "platform/file_view.h"
@@ -14,13 +16,29 @@
 
 namespace forms {
 
+namespace {
+
+/// The path with an upper-case drive and with its "." and ".." worked out.
+std::string withoutDots(std::string path) {
+  if (path.size() < 2) return path;
+  path[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(path[0])));
+  std::replace(path.begin(), path.end(), '\\', '/');
+  std::filesystem::path rest("/");
+  rest += path.substr(2);
+  path.resize(2);
+  return path.append(drivePath(rest.lexically_normal().string()), 2, std::string::npos);
+}
+
+}  // namespace
+
 DriveListBox::DriveListBox(Container& parent, const char* name, const Rect& place, Handler change)
     : Control(parent, name, new QComboBox(parent.host()), place) {
   auto* box = as<QComboBox>();
   box->setAccessibleName(QStringLiteral("Drive"));
   for (const std::string& drive : drives()) box->addItem(shown(drive));
   box->setCurrentText(QStringLiteral("Z:"));
-  QObject::connect(box, &QComboBox::currentIndexChanged, [this, change] { change(form_); });
+  QObject::connect(box, &QComboBox::currentIndexChanged,
+                   [this, change = std::move(change)] { change(form_); });
 }
 
 std::string DriveListBox::Drive() const {
@@ -38,7 +56,7 @@ DirListBox::DirListBox(Container& parent, const char* name, const Rect& place, H
   auto* tree = as<DirTree>();
   tree->setAccessibleName(QStringLiteral("Directory"));
   tree->choose("Z:\\");
-  tree->changed = [this, change] { change(form_); };
+  tree->changed = [this, change = std::move(change)] { change(form_); };
 }
 
 std::string DirListBox::Path() const {
@@ -48,9 +66,8 @@ std::string DirListBox::Path() const {
 }
 
 void DirListBox::setPath(const std::string& path) {
-  std::string wanted = drivePath(path);
-  if (nativePath(wanted).empty()) return;
-  wanted[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(wanted[0])));
+  std::string wanted = withoutDots(drivePath(path));
+  if (!isDirectory(wanted.substr(0, 2))) return;
   while (!isDirectory(wanted) && wanted != parentOf(wanted)) wanted = parentOf(wanted);
   as<DirTree>()->choose(wanted);
 }
@@ -61,8 +78,8 @@ FileListBox::FileListBox(Container& parent, const char* name, const Rect& place,
       pattern_(pattern) {
   auto* view = as<FileView>();
   view->setAccessibleName(QStringLiteral("Files"));
-  view->clicked = [this, click] { click(form_); };
-  view->doubleClicked = [this, dblClick] { dblClick(form_); };
+  view->clicked = [this, click = std::move(click)] { click(form_); };
+  view->doubleClicked = [this, dblClick = std::move(dblClick)] { dblClick(form_); };
 }
 
 void FileListBox::setPath(const std::string& path) {
@@ -101,7 +118,7 @@ bool FileListBox::Selected(int index) const {
 }
 
 std::string FileListBox::FileName() const {
-  const int row = as<FileView>()->currentIndex().row();
+  const int row = as<FileView>()->chosenRow();
   return row < 0 ? std::string() : List(row);
 }
 

@@ -51,7 +51,8 @@ class FileListBox : public Control {
   int ListCount() const;
   const std::string& List(int index) const;
   bool Selected(int index) const;
-  /// The name at the current item; empty when there is none.
+  /// The name at the current item. Where the user has just taken that out of the selection, it is
+  /// the one selected name; empty when nothing is selected.
   std::string FileName() const;
 
  private:

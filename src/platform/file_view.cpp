@@ -55,6 +55,14 @@ bool FileView::isSelected(int row) const {
   return selected_[static_cast<std::size_t>(row)];
 }
 
+int FileView::chosenRow() const {
+  const QItemSelection selection = selectionModel()->selection();
+  if (selection.isEmpty()) return -1;
+  const int current = currentIndex().row();
+  const bool one = selection.size() == 1 && selection.first().height() == 1;
+  return one && !isSelected(current) ? selection.first().top() : current;
+}
+
 void FileView::mousePressEvent(QMouseEvent* event) {
   changed_ = false;
   gesture_ = event->button() == Qt::LeftButton ? Gesture::Click : Gesture::None;

@@ -32,6 +32,8 @@ class FileView final : public QListView {
   void setNames(std::vector<std::string> names);
   const std::vector<std::string>& names() const { return model_.names(); }
   bool isSelected(int row) const;
+  /// The current row or, where that isn't selected, the only one that is; -1 when none is selected.
+  int chosenRow() const;
 
   std::function<void()> clicked;
   std::function<void()> doubleClicked;

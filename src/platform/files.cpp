@@ -154,7 +154,8 @@ bool OutputFile::open() {
   // Looked at before it is opened, since opening a device can have effects of its own.
   struct stat status {};
   if (::stat(path_.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
-  handle_ = ::open(path_.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+  // Readable too, since reserving space has to read where the file system doesn't help.
+  handle_ = ::open(path_.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (handle_ < 0) return false;
   if (::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode)) {
     ::close(handle_);

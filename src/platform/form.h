@@ -123,6 +123,15 @@ class FormCollection {
   /// Called when the last form has been unloaded.
   std::function<void()> onLastUnloaded;
 
+  FormCollection() = default;
+  /// At the program's own end no form is left. At a sudden one, as when the screen goes away, the
+  /// windows went before, and the forms are left alone.
+  ~FormCollection() {
+    for (Entry& entry : entries_) entry.form.release();
+  }
+  FormCollection(const FormCollection&) = delete;
+  FormCollection& operator=(const FormCollection&) = delete;
+
   int Count() const { return static_cast<int>(entries_.size()); }
   Form& operator[](int index) { return *entries_[static_cast<std::size_t>(index)].form; }
 

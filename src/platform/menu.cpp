@@ -3,6 +3,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include <utility>
+
 #include "platform/text.h"
 
 namespace forms {
@@ -19,7 +21,8 @@ MenuItem::MenuItem(Menu& menu, const char* name, const char* caption, const char
   action_->setObjectName(name);
   action_->setShortcut(QKeySequence(shown(shortcut)));
   action_->setEnabled((traits & Disabled) == 0);
-  QObject::connect(action_, &QAction::triggered, [&form = menu.form_, click] { click(form); });
+  QObject::connect(action_, &QAction::triggered,
+                   [&form = menu.form_, click = std::move(click)] { click(form); });
 }
 
 bool MenuItem::Enabled() const {

@@ -12,22 +12,19 @@ bool hasDrive(std::string_view path) {
   return path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0]));
 }
 
-/// The directory with one link for each drive of the Wine prefix; empty without a home.
+/// The directory with one link for each drive of the Wine prefix.
 std::string wineDrives() {
   if (const char* prefix = std::getenv("WINEPREFIX"); prefix && *prefix) {
     return std::string(prefix) + "/dosdevices";
   }
   const char* home = std::getenv("HOME");
-  return home && *home ? std::string(home) + "/.wine/dosdevices" : std::string();
+  return std::string(home ? home : "") + "/.wine/dosdevices";
 }
 
-/// The native directory that a drive stands for; empty where there is no such drive.
+/// The native directory that a drive stands for. Where there is no such drive, that doesn't exist.
 std::string driveRoot(char letter) {
   const char lower = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-  if (lower == 'z') return "/";
-  const std::string link = wineDrives() + "/" + lower + ":";
-  std::error_code error;
-  return std::filesystem::is_directory(link, error) ? link + "/" : std::string();
+  return lower == 'z' ? "/" : wineDrives() + "/" + lower + ":/";
 }
 
 }  // namespace
@@ -36,7 +33,6 @@ std::filesystem::path nativePath(std::string_view path) {
   std::string native;
   if (hasDrive(path)) {
     native = driveRoot(path[0]);
-    if (native.empty()) return {};
     path.remove_prefix(2);
   } else if (!path.starts_with('/')) {
     return {};
@@ -49,8 +45,9 @@ std::filesystem::path nativePath(std::string_view path) {
 }
 
 std::string drivePath(std::string_view path) {
-  if (!path.starts_with('/')) return std::string(path);
-  std::string shown = "Z:" + std::string(path);
+  if (!path.starts_with('/') && !hasDrive(path)) return std::string(path);
+  std::string shown(hasDrive(path) ? "" : "Z:");
+  shown += path;
   std::replace(shown.begin(), shown.end(), '/', '\\');
   return shown;
 }
@@ -58,7 +55,8 @@ std::string drivePath(std::string_view path) {
 std::vector<std::string> drives() {
   std::vector<std::string> letters;
   for (char letter = 'A'; letter <= 'Z'; ++letter) {
-    if (!driveRoot(letter).empty()) letters.push_back({letter, ':'});
+    std::error_code error;
+    if (std::filesystem::is_directory(driveRoot(letter), error)) letters.push_back({letter, ':'});
   }
   return letters;
 }

@@ -11,11 +11,12 @@ namespace forms {
 /// of its file system, and the other letters are the drives of the user's Wine prefix
 /// (`$WINEPREFIX`, else `~/.wine`). A native absolute path means itself. Names are bytes.
 
-/// The native path that `path` means; empty where it means none, as for a drive that isn't there
-/// or a path without a drive.
+/// The native path that `path` means, whether or not it exists; empty for a path that has neither a
+/// drive nor a leading slash. Asks nothing of the file system.
 std::filesystem::path nativePath(std::string_view path);
 
-/// An absolute native path in drive form, on `Z:`. A path that is in drive form already stays so.
+/// An absolute native path in drive form, on `Z:`. A path with a drive gets its backslashes; one
+/// that means nothing stays as it is.
 std::string drivePath(std::string_view path);
 
 /// The letters of all drives with their colons, in alphabetical order.

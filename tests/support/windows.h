@@ -61,6 +61,9 @@ class Messages {
 
   /// The texts said since the last call.
   std::vector<std::string> texts();
+  /// There were `count` messages, and the last of them was this one. Forgets them all.
+  void expectLast(std::size_t count, const std::string& text, const std::string& title,
+                  forms::Icon icon);
 };
 
 /// The visible or hidden window of a form, by its name.
@@ -95,21 +98,16 @@ void settle();
 /// Presses a button that opens a modal window, and runs `act` in there.
 void pressAndThen(const char* form, const char* button, std::function<void()> act);
 
-/// Makes the next calls to open a file fail as long as it lives.
-class NoMoreFiles {
+/// A limit of the process, as long as it lives: with RLIMIT_NOFILE 0 no file can be opened, with
+/// RLIMIT_FSIZE the disk is full once a file has that size.
+class Limit {
  public:
-  NoMoreFiles();
-  ~NoMoreFiles();
+  Limit(__rlimit_resource resource, rlim_t value);
+  ~Limit() { ::setrlimit(resource_, &before_); }
 
  private:
-  rlim_t limit_;
-};
-
-/// A disk that is full once a file has `size` bytes.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size);
-  ~FullDisk();
+  __rlimit_resource resource_;
+  rlimit before_{};
 };
 
 /// The colours as the program holds them.

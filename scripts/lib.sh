@@ -1,0 +1,34 @@
+# shellcheck shell=bash disable=SC2034
+# Sourced by the scripts beside it: they run at the top of the source tree, with the packages that
+# they need.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# What the parts need, as Debian 12 names it.
+build_packages=(qt6-base-dev cmake ninja-build g++ libgtest-dev libbenchmark-dev fonts-liberation)
+desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
+fuzz_packages=(clang libclang-rt-14-dev)
+format_packages=(clang-format)
+
+# need PACKAGE... installs those that are missing. On a complete machine it neither asks for a
+# password nor uses the network.
+need() {
+  local package missing=() as_root=()
+  for package; do
+    dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+      missing+=("$package")
+  done
+  ((${#missing[@]})) || return 0
+
+  echo "Installing with apt-get: ${missing[*]}"
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null || {
+      echo "There is no sudo here; install these packages as root and start again." >&2
+      return 1
+    }
+    as_root=(sudo)
+  fi
+  "${as_root[@]}" apt-get -q update
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get -q -y install --no-install-recommends "${missing[@]}"
+}
