@@ -1,7 +1,11 @@
 #include "mainwindow/frm_main.h"
 
 #include "conversion/frm_convert.h"
+#include "conversion/frm_preview_toolbar.h"
 #include "mainwindow/program_settings.h"
+#include "palette/find_palette.h"
+#include "palette/frm_pal_select.h"
+#include "palette/frm_pal_toolbar.h"
 #include "palette/load_palette.h"
 #include "picture/program_state.h"
 #include "platform/application.h"
@@ -23,6 +27,10 @@ void MainForm::Form_Load() {
   frmConvert.Load();
   frmConvert->sourceDirectory = [this] { return filSource.Path(); };
   frmConvert->destinationDirectory = [this] { return lstDest.Text(); };
+  frmPalToolbar.Load();
+  frmPreviewToolbar.Load();
+  choosePalette = selectPalette;
+  showPaletteFile = [this] { lblPalFile.setCaption(state.CurrentPaletteFile); };
   fillBoxes();
   loadDefaultPalette();
   setCheckBoxes();
@@ -42,7 +50,7 @@ void MainForm::fillBoxes() {
 void MainForm::loadDefaultPalette() {
   state.CurrentPaletteFile = state.DefaultPalette;
   LoadPalette();
-  lblPalFile.setCaption(state.CurrentPaletteFile);
+  showPaletteFile();
 }
 
 void MainForm::setCheckBoxes() {
@@ -57,7 +65,22 @@ void MainForm::setCheckBoxes() {
 void MainForm::Form_Unload() {
   // The last loaded goes first; this window is the first of all.
   for (int i = forms::Forms.Count() - 1; i >= 1; --i) forms::Forms[i].Unload();
+  choosePalette = {};
+  showPaletteFile = {};
+  state.PreviewDC.reset();
   writeSettings();
+}
+
+void MainForm::Form_Resize() {
+  const auto eachToolWindow = [](auto act) {
+    if (state.ShowPal) act(*frmPalToolbar);
+    if (state.ShowPrev) act(*frmPreviewToolbar);
+  };
+  if (WindowState() == forms::WindowState::Minimised) {
+    eachToolWindow([](forms::Form& window) { window.Hide(); });
+  } else if (WindowState() == forms::WindowState::Normal) {
+    eachToolWindow([](forms::Form& window) { window.Show(); });
+  }
 }
 
 }  // namespace mill

@@ -23,6 +23,7 @@ class MainForm final : public forms::Form {
   // Start-up and shut-down.
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_Resize() override;
   void fillBoxes();
   void loadDefaultPalette();
   void setCheckBoxes();
@@ -47,6 +48,7 @@ class MainForm final : public forms::Form {
   void cmdBatch_Click();
   void cmdExit_Click() { Unload(); }
   void chkPrev_Click();
+  void showToolWindow(forms::Form& window, bool shown);
   void chkAutoPrev_Click();
   void chkResize_Click();
   void chkPal_Click();

@@ -1,10 +1,28 @@
 #include "conversion/frm_convert.h"
+#include "conversion/frm_preview_toolbar.h"
+#include "conversion/show_preview.h"
 #include "mainwindow/frm_main.h"
+#include "palette/frm_pal_toolbar.h"
+#include "picture/open_picture.h"
 #include "picture/program_state.h"
+#include "picture/write_bitmap.h"
+#include "platform/application.h"
+#include "platform/environment.h"
+#include "platform/paths.h"
 
 namespace mill {
 
-void MainForm::cmdOpen_Click() {}
+void MainForm::cmdOpen_Click() {
+  if (!state.ShowPrev) return;
+  const forms::Hourglass hourglass;
+  OpenPicture(forms::join(filSource.Path(), filSource.FileName()));
+  state.TempPicturePath = forms::join(forms::tempDirectory(), "temp.bmp");
+  WriteBitmap(state.TempPicturePath);
+  if (!state.PictureFileName.empty()) ShowPreview();
+  enableOpen(false);
+  enableInfo(true);
+  if (state.IsStandardBitmap) enableConvert(false);
+}
 
 void MainForm::cmdConvert_Click() {
   frmConvert->Show(forms::vbModal, *this);
@@ -19,6 +37,13 @@ void MainForm::cmdBatch_Click() {
   enableBatch(false);
 }
 
+/// Afterwards the main window is the active one again.
+void MainForm::showToolWindow(forms::Form& window, bool shown) {
+  if (!shown) return window.Hide();
+  window.Show();
+  Show();
+}
+
 // A box that is disabled keeps its tick and its flag.
 
 void MainForm::chkPrev_Click() {
@@ -26,6 +51,7 @@ void MainForm::chkPrev_Click() {
   chkAutoPrev.setEnabled(state.ShowPrev);
   chkResize.setEnabled(state.ShowPrev);
   cmdOpen.setEnabled(state.ShowPrev);
+  showToolWindow(*frmPreviewToolbar, state.ShowPrev);
 }
 
 void MainForm::chkAutoPrev_Click() {
@@ -34,10 +60,14 @@ void MainForm::chkAutoPrev_Click() {
 
 void MainForm::chkResize_Click() {
   state.ResizeFit = chkResize.Value() == 1;
+  if (state.ResizeFit && !state.PictureFileName.empty()) {
+    fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
+  }
 }
 
 void MainForm::chkPal_Click() {
   state.ShowPal = chkPal.Value() == 1;
+  showToolWindow(*frmPalToolbar, state.ShowPal);
 }
 
 void MainForm::chkAutoPal_Click() {

@@ -37,7 +37,10 @@ bool writeCurrentPalette() {
 }  // namespace
 
 void LoadPalette() {
-  if (const Fault fault = readCurrentPalette(); fault != Fault::None) tell(fault);
+  const Fault fault = readCurrentPalette();
+  if (fault != Fault::None) tell(fault);
+  const bool changed = fault == Fault::None || fault == Fault::PaletteIncomplete;
+  if (changed && state.ShowPal && updateSwatches) updateSwatches();
 }
 
 void SavePalette() {

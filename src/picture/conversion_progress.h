@@ -18,16 +18,18 @@ class ConversionProgress {
 
 inline ConversionProgress* conversionProgress = nullptr;
 
+inline bool isConverting() {
+  return conversionProgress && conversionProgress->isActive();
+}
+
 /// The one to report to at this moment, which may be one that listens to nothing.
 inline Progress& openingProgress() {
   static Progress nobody;
-  return conversionProgress && conversionProgress->isActive() ? conversionProgress->opening()
-                                                              : nobody;
+  return isConverting() ? conversionProgress->opening() : nobody;
 }
 inline Progress& writingProgress() {
   static Progress nobody;
-  return conversionProgress && conversionProgress->isActive() ? conversionProgress->writing()
-                                                              : nobody;
+  return isConverting() ? conversionProgress->writing() : nobody;
 }
 
 }  // namespace mill

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "palette/find_palette.h"
 #include "palette/load_palette.h"
 #include "picture/conversion_progress.h"
 #include "picture/kestrel_bitmap.h"
@@ -125,9 +126,13 @@ void OpenPicture(const std::string& path) {
   }
   if (standard) takeColours();
 
+  if (!isConverting() && state.ResizeFit && fitPreview) {
+    fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
+  }
   state.PictureFileName = forms::fileNameOf(path);
   state.PictureSourceFile = path;
   state.TempPicturePath = forms::join(forms::tempDirectory(), "temp.bmp");
+  if (state.AutoPal) FindPalette();
 }
 
 }  // namespace mill

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "picture/picture_record.h"
+#include "platform/bitmap.h"
 
 namespace mill {
 
@@ -38,6 +40,9 @@ struct ProgramState {
   /// name it stays after a conversion.
   std::string PictureSourceFile;
   bool IsStandardBitmap = false;
+
+  /// The bitmap that the preview shows; null before the first one and after a failed load.
+  std::unique_ptr<forms::Bitmap> PreviewDC;
 
   /// The selection in list order, names without directory. Only the first `SelectedCount` count.
   std::vector<std::string> SelectedFiles;

@@ -30,6 +30,13 @@ Qt::WindowFlags windowFlags(const FormLook& look) {
   return flags;
 }
 
+/// What a window's frame counts for in its height and width, in twips.
+constexpr Size kFrame = {180, 420};
+
+int clientPixels(double twips) {
+  return static_cast<int>(std::clamp(twips / kTwipsPerPixel, 1.0, double{QWIDGETSIZE_MAX}));
+}
+
 /// Holds an unloaded form until the event loop deletes it.
 class Grave final : public QObject {
  public:
@@ -71,6 +78,22 @@ bool Form::Visible() const {
   return shell_->isVisible();
 }
 
+void Form::setHeight(double height) {
+  shell_->resize(shell_->width(), clientPixels(height - kFrame.Height));
+}
+
+void Form::setWidth(double width) {
+  shell_->resize(clientPixels(width - kFrame.Width), shell_->height());
+}
+
+int Form::ScaleHeight() const {
+  return shell_->client()->height() * kTwipsPerPixel;
+}
+
+int Form::ScaleWidth() const {
+  return shell_->client()->width() * kTwipsPerPixel;
+}
+
 WindowState Form::WindowState() const {
   if (shell_->isMinimized()) return forms::WindowState::Minimised;
   return shell_->isMaximized() ? forms::WindowState::Maximised : forms::WindowState::Normal;
@@ -96,6 +119,11 @@ void Form::setMousePointer(Pointer pointer) {
 void Form::Show() {
   place(nullptr);
   present();
+}
+
+void Form::Show(Mode mode) {
+  Form* active = Screen.ActiveForm();
+  Show(mode, active ? *active : *this);
 }
 
 void Form::Show(Mode mode, Form& owner) {

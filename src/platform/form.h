@@ -67,6 +67,8 @@ class Form : public Container {
 
   /// Returns at once.
   void Show();
+  /// As below, owned by the active form.
+  void Show(Mode mode);
   /// With `vbModal` returns when the window has been hidden or unloaded. An owner that isn't
   /// visible only loses its say in where the window opens.
   void Show(Mode mode, Form& owner);
@@ -78,6 +80,12 @@ class Form : public Container {
   const std::string& Caption() const { return caption_; }
   void setCaption(const std::string& caption);
   bool Visible() const;
+  /// The size of the whole window in twips, in which the frame counts as 180 × 420.
+  void setHeight(double height);
+  void setWidth(double width);
+  /// The client area in twips.
+  int ScaleHeight() const;
+  int ScaleWidth() const;
   forms::WindowState WindowState() const;
   Pointer MousePointer() const { return pointer_; }
   /// Takes effect at once; the way back to the default pointer waits for the event loop, so that a

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/bitmap.h"
+
+namespace mill {
+
+/// Loads the bitmap file at `path`: at its own size with `ResizeFit`, else stretched to the preview
+/// box. Null, with a message, where it can't be loaded.
+std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path);
+
+/// Loads the temporary bitmap and paints it into the preview window.
+void ShowPreview();
+
+}  // namespace mill

@@ -1,0 +1,56 @@
+#include "palette/find_palette.h"
+
+#include "palette/load_palette.h"
+#include "picture/program_state.h"
+#include "platform/environment.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+namespace {
+
+/// The palette directory first, then its sub-directories in the order of the file system.
+std::vector<std::string> searchedDirectories() {
+  std::vector<std::string> directories = {state.PalDir};
+  if (!state.Search) return directories;
+  for (const std::string& name : forms::directoriesIn(state.PalDir)) {
+    directories.push_back(forms::join(state.PalDir, name));
+  }
+  return directories;
+}
+
+std::vector<std::string> matchingPalettes() {
+  const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";
+  std::vector<std::string> matches;
+  for (const std::string& directory : searchedDirectories()) {
+    std::string path = forms::join(directory, name);
+    if (forms::isNormalFile(path)) matches.push_back(std::move(path));
+  }
+  return matches;
+}
+
+void settlePalette() {
+  if (state.PictureRecord.PaletteIndex == 0) {
+    state.CurrentPaletteFile = forms::join(forms::tempDirectory(), "bmp.pal");
+    return;
+  }
+  const std::vector<std::string> matches = matchingPalettes();
+  if (matches.empty()) {
+    state.CurrentPaletteFile = state.DefaultPalette;
+  } else if (matches.size() == 1 || !choosePalette) {
+    state.CurrentPaletteFile = matches.front();
+  } else {
+    choosePalette(matches);
+  }
+}
+
+}  // namespace
+
+void FindPalette() {
+  settlePalette();
+  if (showPaletteFile) showPaletteFile();
+  LoadPalette();
+}
+
+}  // namespace mill

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace mill {
+
+/// Lets the user choose one of several palette files, and leaves the choice in
+/// `CurrentPaletteFile`. The chooser window stands behind it.
+inline std::function<void(const std::vector<std::string>& paths)> choosePalette;
+
+/// Shows the path of the current palette on the main window.
+inline std::function<void()> showPaletteFile;
+
+/// Makes the palette of `PaletteIndex` the current one: the file named after the index in the
+/// palette directory or, with `Search`, one level below it. Several are for the user to choose
+/// from; without any the default palette is taken, silently. Index 0 stands for the colours that a
+/// standard bitmap brought along.
+void FindPalette();
+
+}  // namespace mill

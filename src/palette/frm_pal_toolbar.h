@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/form.h"
+#include "platform/swatch_grid.h"
+
+namespace mill {
+
+/// Shows the current palette as swatches, with the name of its file in the title. Up to date after
+/// each load while `ShowPal` is on, and whenever it is activated.
+class PalToolbarForm final : public forms::Form {
+ public:
+  PalToolbarForm();
+  ~PalToolbarForm() override;
+
+  void update();
+
+ private:
+  void Form_Load() override;
+  void Form_Activate() override { update(); }
+
+  forms::SwatchGrid palette1{*this, "palette1", 0, 0, 120};
+};
+
+inline forms::Global<PalToolbarForm> frmPalToolbar;
+
+}  // namespace mill

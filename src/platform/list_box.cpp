@@ -1,0 +1,30 @@
+#include "platform/list_box.h"
+
+#include "platform/file_view.h"
+
+namespace forms {
+
+ListBox::ListBox(Container& parent, const char* name, const Rect& place, Handler click)
+    : Control(parent, name, new FileView(parent.host(), false), place) {
+  borrowLabel(parent);
+  auto* view = as<FileView>();
+  view->clicked = [this, click] { click(form_); };
+  view->doubleClicked = [] {};
+}
+
+void ListBox::AddItem(const std::string& text) {
+  std::vector<std::string> texts = as<FileView>()->names();
+  texts.push_back(text);
+  as<FileView>()->setNames(std::move(texts));
+}
+
+std::string ListBox::Text() const {
+  const int row = as<FileView>()->currentIndex().row();
+  return SelCount() == 0 ? std::string() : as<FileView>()->names()[static_cast<std::size_t>(row)];
+}
+
+int ListBox::SelCount() const {
+  return as<FileView>()->selectionModel()->hasSelection() ? 1 : 0;
+}
+
+}  // namespace forms
