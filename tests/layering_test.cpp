@@ -50,7 +50,7 @@ int level(const std::string& path) {
   if (stem(path) == "picture/program_state" || stem(path) == "picture/conversion_progress")
     return 1;
   if (stem(path) == "picture/warn") return 1;
-  if (stem(path) == "palette/load_palette") return 2;
+  if (stem(path) == "palette/load_palette" || stem(path) == "palette/find_palette") return 2;
   if (folder == "picture") return 3;
   if (folder == "conversion" || folder == "dialogs") return 4;
   if (folder == "palette") return 5;

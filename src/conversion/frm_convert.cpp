@@ -1,5 +1,6 @@
 #include "conversion/frm_convert.h"
 
+#include "palette/find_palette.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
@@ -66,6 +67,7 @@ void ConvertForm::enableButtons(bool enabled) {
 }
 
 void ConvertForm::convertSelection() {
+  const PaletteSearchRun run;
   for (std::int32_t i = 0; i < state.SelectedCount; ++i) {
     const bool written = convertFile(state.SelectedFiles[static_cast<std::size_t>(i)]);
     const bool more = i + 1 < state.SelectedCount;

@@ -1,5 +1,7 @@
 #include "conversion/frm_preview_toolbar.h"
 
+#include <cmath>
+
 #include "conversion/show_preview.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
@@ -19,8 +21,9 @@ PreviewForm::~PreviewForm() {
 
 void PreviewForm::Form_Load() {
   fitPreview = [this](std::int32_t width, std::int32_t height) {
-    setHeight(double{1} * forms::Screen.TwipsPerPixelY() * height + 420);
-    setWidth(double{1} * forms::Screen.TwipsPerPixelX() * width + 180);
+    // A bitmap whose rows run from the top has a negative height.
+    setHeight(forms::Screen.TwipsPerPixelY() * std::abs(double{1} * height) + 420);
+    setWidth(forms::Screen.TwipsPerPixelX() * double{1} * width + 180);
   };
 }
 

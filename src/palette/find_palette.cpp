@@ -1,5 +1,8 @@
 #include "palette/find_palette.h"
 
+#include <optional>
+#include <unordered_map>
+
 #include "palette/load_palette.h"
 #include "picture/program_state.h"
 #include "platform/environment.h"
@@ -20,8 +23,29 @@ std::vector<std::string> searchedDirectories() {
   return directories;
 }
 
+/// The paths of all palette files by their names.
+using PaletteNames = std::unordered_map<std::string, std::vector<std::string>>;
+
+bool inRun = false;
+std::optional<PaletteNames> namesOfRun;
+
+PaletteNames readNames() {
+  PaletteNames names;
+  for (const std::string& directory : searchedDirectories()) {
+    for (const std::string& name : forms::filesIn(directory, "*.pal")) {
+      names[name].push_back(forms::join(directory, name));
+    }
+  }
+  return names;
+}
+
 std::vector<std::string> matchingPalettes() {
   const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";
+  if (inRun) {
+    if (!namesOfRun) namesOfRun = readNames();
+    const auto found = namesOfRun->find(name);
+    return found == namesOfRun->end() ? std::vector<std::string>() : found->second;
+  }
   std::vector<std::string> matches;
   for (const std::string& directory : searchedDirectories()) {
     std::string path = forms::join(directory, name);
@@ -42,10 +66,21 @@ void settlePalette() {
     state.CurrentPaletteFile = matches.front();
   } else {
     choosePalette(matches);
+    namesOfRun.reset();
   }
 }
 
 }  // namespace
+
+PaletteSearchRun::PaletteSearchRun() {
+  inRun = true;
+  namesOfRun.reset();
+}
+
+PaletteSearchRun::~PaletteSearchRun() {
+  inRun = false;
+  namesOfRun.reset();
+}
 
 void FindPalette() {
   settlePalette();

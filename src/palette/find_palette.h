@@ -13,6 +13,17 @@ inline std::function<void(const std::vector<std::string>& paths)> choosePalette;
 /// Shows the path of the current palette on the main window.
 inline std::function<void()> showPaletteFile;
 
+/// While one lives, as during the conversion of many pictures, the palette directories are read
+/// once and not for every picture. They are read again after the user has been asked something, who
+/// may have put a palette there meanwhile.
+class PaletteSearchRun {
+ public:
+  PaletteSearchRun();
+  ~PaletteSearchRun();
+  PaletteSearchRun(const PaletteSearchRun&) = delete;
+  PaletteSearchRun& operator=(const PaletteSearchRun&) = delete;
+};
+
 /// Makes the palette of `PaletteIndex` the current one: the file named after the index in the
 /// palette directory or, with `Search`, one level below it. Several are for the user to choose
 /// from; without any the default palette is taken, silently. Index 0 stands for the colours that a

@@ -33,8 +33,9 @@ Qt::WindowFlags windowFlags(const FormLook& look) {
 /// What a window's frame counts for in its height and width, in twips.
 constexpr Size kFrame = {180, 420};
 
-int clientPixels(double twips) {
-  return static_cast<int>(std::clamp(twips / kTwipsPerPixel, 1.0, double{QWIDGETSIZE_MAX}));
+/// No window becomes larger than the screen.
+int clientPixels(double twips, int screen) {
+  return static_cast<int>(std::clamp(twips / kTwipsPerPixel, 1.0, static_cast<double>(screen)));
 }
 
 /// Holds an unloaded form until the event loop deletes it.
@@ -51,6 +52,8 @@ Form::Form(const FormLook& look)
                        QSize(pixels(look.Client.Width), pixels(look.Client.Height)),
                        look.BorderStyle != Border::SizableToolWindow)) {
   shell_->setObjectName(look.Name);
+  // A tool window comes up beside the window that is in use and leaves it in use.
+  shell_->setAttribute(Qt::WA_ShowWithoutActivating, isToolWindow(look));
   setCaption(look.Caption);
 }
 
@@ -68,6 +71,7 @@ QMenuBar* Form::menuBar() {
 }
 
 void Form::setCaption(const std::string& caption) {
+  if (caption == caption_) return;
   caption_ = caption;
   // Qt takes "[*]" in a title for its mark of a changed document; doubled it stands for itself.
   shell_->setWindowTitle(shown(caption).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
@@ -79,11 +83,13 @@ bool Form::Visible() const {
 }
 
 void Form::setHeight(double height) {
-  shell_->resize(shell_->width(), clientPixels(height - kFrame.Height));
+  shell_->resize(shell_->width(),
+                 clientPixels(height - kFrame.Height, shell_->screen()->virtualSize().height()));
 }
 
 void Form::setWidth(double width) {
-  shell_->resize(clientPixels(width - kFrame.Width), shell_->height());
+  shell_->resize(clientPixels(width - kFrame.Width, shell_->screen()->virtualSize().width()),
+                 shell_->height());
 }
 
 int Form::ScaleHeight() const {
@@ -163,7 +169,7 @@ void Form::present() {
   const bool wasVisible = Visible();
   shell_->show();
   if (!wasVisible) shell_->focusFirst();
-  shell_->activateWindow();
+  if (!isToolWindow(look_)) shell_->activateWindow();
   Screen.show(*this);
 }
 

@@ -1,0 +1,147 @@
+#include "harness.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+
+#include "mainwindow/frm_main.h"
+#include "picture/program_state.h"
+#include "platform/application.h"
+#include "platform/paths.h"
+#include "platform/progress_bar.h"
+#include "platform/settings.h"
+
+namespace mill::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+double seconds(clockid_t clock) {
+  timespec time{};
+  clock_gettime(clock, &time);
+  return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+}
+
+void put(std::string& bytes, std::size_t at, std::int32_t value) {
+  for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(value >> 8 * i);
+}
+
+std::string kestrelBitmap(int width, int height) {
+  const int size = width * height;
+  std::string bytes(static_cast<std::size_t>(68 + size), '\0');
+  bytes.replace(0, 2, "KS");
+  put(bytes, 20, width);
+  put(bytes, 24, height);
+  bytes[28] = 8;
+  put(bytes, 40, size);
+  for (int i = 0; i < size; ++i) {
+    bytes[static_cast<std::size_t>(44 + i)] = static_cast<char>(i * 7 + i / width);
+  }
+  put(bytes, static_cast<std::size_t>(64 + size), 1);
+  return bytes;
+}
+
+void save(const fs::path& path, const std::string& bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file.write(bytes.data(), static_cast<long>(bytes.size()));
+  require(file.good(), "writing " + path.string());
+}
+
+std::string palette() {
+  std::string bytes(1048, '\0');
+  for (std::size_t i = 24; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i / 4);
+  return bytes;
+}
+
+}  // namespace
+
+Cost now() {
+  return {seconds(CLOCK_PROCESS_CPUTIME_ID), seconds(CLOCK_MONOTONIC),
+          1e-9 * static_cast<double>(forms::ProgressBar::paintingTime().count())};
+}
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+double largest(const std::vector<double>& values) {
+  return *std::max_element(values.begin(), values.end());
+}
+
+void fail(const std::string& what) {
+  std::printf("failed: %s\n", what.c_str());
+  std::fflush(stdout);
+  std::_Exit(1);
+}
+
+void require(bool holds, const std::string& what) {
+  if (!holds) fail(what);
+}
+
+void settle() {
+  for (int i = 0; i < 20; ++i) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+void empty(const fs::path& folder) {
+  fs::remove_all(folder);
+  fs::create_directories(folder);
+}
+
+QWidget* window(const char* form) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->objectName() == QLatin1String(form)) return widget;
+  }
+  fail(std::string("no window ") + form);
+}
+
+void showMainWindow(const Folders& folders) {
+  const auto set = [](const char* key, const fs::path& path) {
+    forms::SaveSetting(forms::App.Title, "Settings", key, forms::drivePath(path.string()));
+  };
+  const bool search = !folders.palettes.empty();
+  save(folders.source / "base.pal", palette());
+  set("Source", folders.source);
+  set("Dest", folders.target);
+  set("PalDir", folders.palettes);
+  set("Palette", folders.source / "base.pal");
+  for (const char* flag : {"AutoPal", "Search", "ShowPal"}) {
+    forms::SaveFlag(forms::App.Title, "Settings", flag, search);
+  }
+  frmMain->Show();
+  settle();
+}
+
+void unloadMainWindow() {
+  frmMain->Unload();
+  settle();
+  state = {};
+}
+
+std::vector<std::string> makePictures(const fs::path& folder, int count, int width, int height) {
+  const std::string bytes = kestrelBitmap(width, height);
+  std::vector<std::string> names;
+  for (int i = 0; i < count; ++i) {
+    names.push_back("picture" + std::to_string(100000 + i) + ".bmp");
+    save(folder / names.back(), bytes);
+  }
+  return names;
+}
+
+void makePalettes(const fs::path& folder, int directories) {
+  empty(folder);
+  for (int i = 1; i <= directories; ++i) {
+    const fs::path directory = folder / std::to_string(i);
+    fs::create_directory(directory);
+    save(directory / (std::to_string(directories + 1 - i) + ".pal"), palette());
+  }
+}
+
+}  // namespace mill::bench

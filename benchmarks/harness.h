@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QApplication>
+#include <QWidget>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace mill::bench {
+
+/// What an act costs, in seconds.
+struct Cost {
+  double processor = 0;
+  double elapsed = 0;
+  double painting = 0;  ///< of progress bars, part of `elapsed`
+};
+
+/// Both clocks and the painting time at one moment.
+Cost now();
+
+template <class Act>
+Cost measure(Act act) {
+  const Cost begin = now();
+  act();
+  const Cost end = now();
+  return {end.processor - begin.processor, end.elapsed - begin.elapsed,
+          end.painting - begin.painting};
+}
+
+double median(std::vector<double> values);
+double largest(const std::vector<double>& values);
+
+/// Ends the program with a message.
+[[noreturn]] void fail(const std::string& what);
+void require(bool holds, const std::string& what);
+
+/// Lets the windows do all that waits.
+void settle();
+
+/// Removes a folder with all that is in it and makes it anew.
+void empty(const std::filesystem::path& folder);
+
+QWidget* window(const char* form);
+
+template <class W>
+W* control(const char* form, const char* name) {
+  W* found = window(form)->findChild<W*>(QLatin1String(name));
+  require(found, std::string(form) + " has a " + name);
+  return found;
+}
+
+/// What the main window finds in its settings when it is loaded.
+struct Folders {
+  std::filesystem::path source;
+  std::filesystem::path target;
+  std::filesystem::path palettes;  ///< none is searched where this is empty
+};
+
+/// Loads and shows the main window on these folders; `unload` ends it.
+void showMainWindow(const Folders& folders);
+void unloadMainWindow();
+
+/// Writes `count` pictures of palette index 1 and gives their names.
+std::vector<std::string> makePictures(const std::filesystem::path& folder, int count, int width,
+                                      int height);
+
+/// Makes that many sub-directories with one palette each; the last one's is of index 1.
+void makePalettes(const std::filesystem::path& folder, int directories);
+
+}  // namespace mill::bench
