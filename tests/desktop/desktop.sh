@@ -1,6 +1,13 @@
 # A desktop for one program: a virtual screen with a window manager, an empty home, and hands that
-# click and type. Sourced by tour.sh. Nothing here waits for a fixed time; what doesn't come within
-# $patience seconds is a failure.
+# click and type. Nothing here waits for a fixed time; what doesn't come within $patience seconds is
+# a failure.
+
+for tool in Xvfb openbox xdotool import identify convert bmptopnm ppmtoppm pamenlarge pamcut; do
+  command -v "$tool" >/dev/null || {
+    echo "desktop: $tool is missing; scripts/test installs what the tests need" >&2
+    exit 1
+  }
+done
 
 suppressions=$(realpath "$(dirname "${BASH_SOURCE[0]}")/../lsan.supp")
 patience=30
@@ -19,6 +26,7 @@ fail() {
     import -window root "$out/failure.png" && echo "desktop: see $out/failure.png" >&2
     echo "desktop: these windows were open:" >&2
     xdotool search --onlyvisible --name . getwindowname %@ >&2 || true
+    echo "desktop: in use was: $(xdotool getactivewindow getwindowname 2>&1)" >&2
   fi
   [[ ! -s $out/program.log ]] || cat "$out/program.log" >&2
   exit 1
@@ -108,12 +116,17 @@ wait_for_window() {
 }
 
 window_is_active() {
-  window=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1)
-  [[ $window && $(xdotool getactivewindow 2>/dev/null) == "$window" ]]
+  window=$(xdotool getactivewindow 2>/dev/null) && [[ $(xdotool getwindowname "$window" 2>/dev/null) == "$1" ]]
+}
+
+# find_window NAME sets $found to the window of that name on the screen. A name may hold brackets.
+find_window() {
+  found=$(xdotool search --onlyvisible --name "^${1//[()]/.}\$" 2>/dev/null | head -n 1)
+  [[ $found ]]
 }
 
 wait_for_no_window() { wait_until "the window '$1' closing" window_is_gone "$1"; }
-window_is_gone() { ! xdotool search --onlyvisible --name "^$1\$" >/dev/null 2>&1; }
+window_is_gone() { ! find_window "$1"; }
 
 # The window doesn't close within a second, which is far longer than closing takes.
 window_stays() {
@@ -135,11 +148,37 @@ click_at() {
 # press KEY... as xdotool names them: alt+f, Escape.
 press() { xdotool key "$@"; }
 
-# Waits for an open menu: a further window of the program, without a name.
+# Waits for an open menu: a further window of the program, without a title.
 wait_for_menu() { wait_until "an open menu" menu_is_open; }
 menu_is_open() {
-  menu=$(xdotool search --onlyvisible --class '^RasterMill$' 2>/dev/null | grep -vx "$window")
+  menu=$(comm -23 <(windows_by --class '^RasterMill$') <(windows_by --name .)) && [[ $menu ]]
 }
+windows_by() { xdotool search --onlyvisible "$@" 2>/dev/null | sort; }
+
+# move_window WINDOW X Y puts its client area there, in pixels.
+move_window() {
+  xdotool windowmove "$1" "$2" "$3"
+  wait_until "a window at $2, $3" window_is_near "$@"
+}
+# The frame has a say in the last few pixels.
+window_is_near() {
+  local WINDOW X Y WIDTH HEIGHT SCREEN
+  eval "$(xdotool getwindowgeometry --shell "$1")"
+  ((X >= $2 && X < $2 + 50 && Y >= $3 && Y < $3 + 50))
+}
+
+# client_size WINDOW prints the width and height of its client area in pixels.
+client_size() {
+  local WINDOW X Y WIDTH HEIGHT SCREEN
+  eval "$(xdotool getwindowgeometry --shell "$1" 2>/dev/null)"
+  echo "$WIDTH $HEIGHT"
+}
+
+# pixels_of WINDOW prints its client area, as far as it is on the screen, as a portable pixmap.
+pixels_of() { import -silent -window "$1" -depth 8 ppm:-; }
+
+# pixels_in FILE prints a bitmap as a portable pixmap. The reader knows nothing of this program.
+pixels_in() { bmptopnm "$1" 2>/dev/null | ppmtoppm; }
 
 # screenshot NAME [WINDOW] saves the window, with its frame, in OUT/NAME.png once it is painted.
 screenshot() {

@@ -6,49 +6,7 @@
 # picture of each window.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
-
-for tool in Xvfb openbox xdotool import identify convert bmptopnm ppmtoppm; do
-  command -v "$tool" >/dev/null || {
-    echo "desktop: $tool is missing; scripts/test installs what the tests need" >&2
-    exit 1
-  }
-done
-
-bin=$(realpath "$1")
-mkdir -p "$2"
-made=$(realpath "$2")
-pictures=$made/pictures
-converted=$made/converted
-
-# The windows' client areas, and places in them, in twips.
-main=("Raster Mill" 8535 4815)
-convert_window=("Convert Bitmap" 3975 3015)
-browse_size=(3825 2865)
-file_browse_size=(6030 2895)
-source_browse=(3540 120)
-dest_browse=(7980 120)
-palette_browse=($((3600 + 4020)) $((720 + 1200)))
-default_browse=($((3600 + 4020)) $((720 + 1920)))
-first_file=(600 840)
-later_file=(600 1500)
-batch_button=(3720 4440)
-yes_button=(780 2700)
-first_palette=(3000 240)
-
-prepare() {
-  [[ -e $made/program.log || ! $(ls -A "$made") ]] || {
-    echo "desktop: $made holds other things than an earlier tour" >&2
-    exit 1
-  }
-  rm -rf "$pictures" "$converted" "$made/palettes" "$made/start" "$made"/*.png
-  "$bin/make-samples" samples "$made"
-  # Stands behind "pictures" among the folders, with a picture of its own.
-  mkdir "$made/start"
-  cp "$pictures/dot.bmp" "$made/start/elsewhere.bmp"
-}
-
-# The sample pictures in the order of the file list.
-names() { ls "$pictures" | LC_ALL=C sort -f; }
+source "$(dirname "${BASH_SOURCE[0]}")/windows.sh"
 
 # expect_converted NAME... checks that these bitmaps are there, and no others.
 expect_converted() {
@@ -62,9 +20,10 @@ expect_converted() {
   done
 }
 
-expect_setting() {
-  grep -qxF "$1" "$XDG_CONFIG_HOME/RasterMill.ini" ||
-    fail "the settings lack $1: $(<"$XDG_CONFIG_HOME/RasterMill.ini")"
+# expect_colours NAME PALETTE... checks the colours of a converted bitmap.
+expect_colours() {
+  (($# > 1)) || fail "no palette has the index of $1"
+  has_colours "$converted/$1" "${@:2}" || fail "$1 has other colours than ${*:2}"
 }
 
 # A path as the settings file shows it.
@@ -74,11 +33,14 @@ stored() {
 }
 
 browse() {
-  # Up leads from the folder "start" to the one above it in the tree.
+  # Up leads from the folder "start" to the one above it in the tree. The dialog stays there while
+  # another window has the focus.
   click_at "${source_browse[@]}"
   wait_for_window "Browse for Source Directory" "${browse_size[@]}"
   press Tab Up
   screenshot browse-source
+  find_window Preview
+  xdotool windowfocus --sync "$found" windowfocus --sync "$window"
   press Return
   wait_for_no_window "Browse for Source Directory"
 
@@ -106,11 +68,20 @@ browse() {
   wait_for_window "${main[@]}"
 }
 
+# choose BUTTON-X BUTTON-Y [CHOICE-X CHOICE-Y] answers the chooser that two palettes of one index
+# bring up in the middle of a run.
+choose() {
+  wait_for_window "${chooser[@]}"
+  (($# == 2)) || click_at "$3" "$4"
+  click_at "$1" "$2"
+  wait_for_no_window "${chooser[0]}"
+}
+
 # Two pictures by mouse, the dialog from the menu; what must not start the conversion, and what does.
 convert_two() {
-  local two
-  click_at "${first_file[@]}"
-  click_at "${later_file[@]}" ctrl
+  local two=(chart.bmp HARBOUR.BMP)
+  click_file "${two[0]}"
+  click_file "${two[1]}" ctrl
   screenshot main-selection
   press alt+f
   wait_for_menu
@@ -122,33 +93,42 @@ convert_two() {
   [[ ! $(ls "$converted") ]] || fail "Enter started the conversion"
 
   wait_for_window "${main[@]}"
-  click_at "${first_file[@]}"
-  click_at "${later_file[@]}" ctrl
+  click_file "${two[0]}"
+  click_file "${two[1]}" ctrl
   press ctrl+b
   wait_for_window "${convert_window[@]}"
   press alt+F4
   window_stays "${convert_window[0]}" "Alt+F4"
   click_at "${yes_button[@]}"
+  choose "${default_button[@]}"
   wait_for_no_window "${convert_window[0]}"
-  mapfile -t two < <(ls "$converted")
-  ((${#two[@]} == 2)) || fail "two pictures were selected, ${#two[@]} were converted"
-  expect_converted "$(names | head -n 1)" "$(ls "$converted" | grep -vxF "$(names | head -n 1)")"
+  expect_converted "${two[@]}"
+  expect_colours chart.bmp "$palettes/day/31.pal"
+  expect_colours HARBOUR.BMP "$palettes/day/31.pal"
 }
 
-# Every picture, by the button.
+# Every picture, by the button. Each gets the palette of its own index.
 convert_all() {
-  local all
+  local all name found_palettes
   rm -f "$converted"/*
   wait_for_window "${main[@]}"
-  click_at "${first_file[@]}"
+  click_file "$(names | head -n 1)"
   press ctrl+a
   click_at "${batch_button[@]}"
   wait_for_window "${convert_window[@]}"
   screenshot "convert$1"
   click_at "${yes_button[@]}"
+  wait_for_window "${chooser[@]}"
+  find_window "${convert_window[0]}" || fail "the chooser isn't over '${convert_window[0]}'"
+  screenshot "chooser$1"
+  choose "${ok_button[@]}" "${second_choice[@]}"
   wait_for_no_window "${convert_window[0]}"
   mapfile -t all < <(names)
   expect_converted "${all[@]}"
+  for name in "${all[@]}"; do
+    mapfile -t found_palettes < <(palettes_of "$name")
+    expect_colours "$name" "${found_palettes[@]}"
+  done
 }
 
 # Where rows need no padding, two readers that know nothing of this program see the same pixels.
@@ -164,10 +144,12 @@ compare_readers() {
   echo "desktop: two readers see the same pixels in $count bitmaps"
 }
 
-prepare
+prepare "$@"
+# Stands behind "pictures" among the folders, with a picture of its own.
+mkdir "$made/start"
+cp "$pictures/dot.bmp" "$made/start/elsewhere.bmp"
 start_screen 2400 1600 "$made"
-"$bin/seed-settings" Source="$made/start" Dest="$converted" PalDir="$made/palettes" \
-  Palette="$made/palettes/day/44.pal"
+seed "$made/start"
 
 start_program "$bin/raster-mill"
 wait_for_window "${main[@]}"
@@ -181,8 +163,8 @@ press alt+f e
 wait_for_end
 expect_setting "Source=$(stored "$pictures")"
 expect_setting "Dest=$(stored "$converted")"
-expect_setting "PalDir=$(stored "$made/palettes")"
-expect_setting "Palette=$(stored "$made/palettes/day/31.pal")"
+expect_setting "PalDir=$(stored "$palettes")"
+expect_setting "Palette=$(stored "$palettes/day/31.pal")"
 expect_setting "Search=True"
 
 # Once more at twice the size, with the settings as they were left; Alt+F4 ends the main window.

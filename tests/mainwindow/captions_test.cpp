@@ -9,6 +9,7 @@
 #include "dialogs/frm_file_browse.h"
 #include "dialogs/frm_save.h"
 #include "mainwindow/frm_main.h"
+#include "palette/frm_pal_select.h"
 #include "support/windows.h"
 
 namespace mill {
@@ -71,7 +72,9 @@ TEST_F(Captions, NoneIsCutAndNoControlLiesOverAnother) {
   frmBrowse->Show();
   frmFileBrowse->Show();
   frmSave->Show();
-  for (const char* form : {"frmMain", "frmConvert", "frmBrowse", "frmFileBrowse", "frmSave"}) {
+  frmPalSelect->Show();
+  for (const char* form :
+       {"frmMain", "frmConvert", "frmBrowse", "frmFileBrowse", "frmSave", "frmPalSelect"}) {
     expectRoomForAll(form);
   }
 }

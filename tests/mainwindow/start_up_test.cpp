@@ -46,6 +46,10 @@ TEST_F(StartUpTest, FirstRunTakesTheDefaultsAndStoresThemAtTheEnd) {
   }
   EXPECT_FALSE(box("chkAutoPrev")->isChecked());
   EXPECT_TRUE(box("chkAutoPrev")->isEnabled() && control("frmMain", "cmdOpen")->isEnabled());
+  for (const char* tool : {"frmPalToolbar", "frmPreviewToolbar"}) {
+    EXPECT_TRUE(test::window(tool)->isVisible()) << tool;
+  }
+  EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMain);
   test::press("frmMain", "cmdExit");
   expectStored({{"Source", app}, {"Dest", data}, {"PalDir", data}, {"Palette", palette}});
   expectStored({{"ShowPal", "True"}, {"ShowPrev", "True"}, {"AutoPrev", "False"}});
@@ -86,7 +90,7 @@ TEST_F(StartUpTest, ReplacesASourceWithoutFiles) {
 
 TEST_F(StartUpTest, TheProgramEndsWithItsMainWindowAndSavesNothingTyped) {
   test::whenShown([] {
-    EXPECT_EQ(forms::Forms.Count(), 2);  // the convert dialog waits hidden
+    EXPECT_EQ(forms::Forms.Count(), 4);  // the convert dialog and the tool windows wait hidden
     for (const char* name : {"lstSource", "lstDest"}) {
       control<QComboBox>("frmMain", name)->setEditText("Z:\\typed");
     }

@@ -83,10 +83,14 @@ void Messages::expectLast(std::size_t count, const std::string& text, const std:
 }
 
 QWidget* window(const char* form) {
+  QWidget* found = nullptr;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (widget->objectName() == QLatin1String(form)) return widget;
+    if (widget->objectName() != QLatin1String(form)) continue;
+    found = widget;
+    // An unloaded window stays for a while beside the one that took its place.
+    if (widget->isVisible()) break;
   }
-  return nullptr;
+  return found;
 }
 
 QAction* menuItem(const char* form, const char* name) {
@@ -100,6 +104,26 @@ void press(const char* form, const char* button) {
 void pressAndThen(const char* form, const char* button, std::function<void()> act) {
   whenShown(std::move(act));
   press(form, button);
+}
+
+QImage painted(QWidget* widget) {
+  return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QImage boxWith(const Bytes& bitmap, QSize box, int scale) {
+  const auto number = [&](std::size_t at) { return bitmap.at(at) | bitmap.at(at + 1) << 8; };
+  const int width = number(18), height = number(22), rowBytes = (width + 3) / 4 * 4;
+  QImage image(box, QImage::Format_RGB32);
+  image.fill(QApplication::palette().color(QPalette::Window));
+  for (int y = 0; y < std::min(height * scale, box.height()); ++y) {
+    for (int x = 0; x < std::min(width * scale, box.width()); ++x) {
+      // The last row is stored first, and of each colour blue.
+      const int at = 1078 + (height - 1 - y / scale) * rowBytes + x / scale;
+      const auto colour = 54 + std::size_t{4} * bitmap.at(static_cast<std::size_t>(at));
+      image.setPixel(x, y, qRgb(bitmap[colour + 2], bitmap[colour + 1], bitmap[colour]));
+    }
+  }
+  return image;
 }
 
 Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
@@ -172,6 +196,11 @@ void MainWindowTest::select(const std::vector<std::string>& names) {
     QTest::mouseClick(list->viewport(), Qt::LeftButton, std::exchange(keys, Qt::ControlModifier),
                       list->visualRect(found.front()).center());
   }
+}
+
+void MainWindowTest::preview(const std::string& name) {
+  select({name});
+  press("frmMain", "cmdOpen");
 }
 
 void MainWindowTest::convert(const char* button) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QTimer>
 #include <QWidget>
 
@@ -98,6 +99,11 @@ void settle();
 /// Presses a button that opens a modal window, and runs `act` in there.
 void pressAndThen(const char* form, const char* button, std::function<void()> act);
 
+/// What a widget shows at this moment.
+QImage painted(QWidget* widget);
+/// An empty box with a bitmap file of 256 colours at its top left, decoded pixel by pixel.
+QImage boxWith(const Bytes& bitmap, QSize box, int scale = 1);
+
 /// A limit of the process, as long as it lives: with RLIMIT_NOFILE 0 no file can be opened, with
 /// RLIMIT_FSIZE the disk is full once a file has that size.
 class Limit {
@@ -143,6 +149,8 @@ class MainWindowTest : public WindowTest {
   Bytes addPicture(const std::string& name, int seed = 0);
   /// Clicks the names in the list, with Ctrl from the second one on.
   void select(const std::vector<std::string>& names);
+  /// Selects the name and opens it into the preview.
+  void preview(const std::string& name);
   /// Converts the selection by the button, "Yes" included.
   void convert(const char* button);
 
