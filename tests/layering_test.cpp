@@ -38,7 +38,7 @@ bool isFormat(const std::string& path) {
   static const std::vector<std::string> formats = {
       "picture/byte_stream",   "picture/fault",          "picture/kestrel_bitmap",
       "picture/little_endian", "picture/picture_record", "picture/standard_bitmap",
-      "palette/palette_file"};
+      "palette/palette_file",  "palette/palette_list"};
   return std::find(formats.begin(), formats.end(), stem(path)) != formats.end();
 }
 

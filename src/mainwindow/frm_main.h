@@ -45,6 +45,7 @@ class MainForm final : public forms::Form {
   // Commands and check boxes.
   void cmdOpen_Click();
   void cmdConvert_Click();
+  void cmdPalette_Click();
   void cmdBatch_Click();
   void cmdExit_Click() { Unload(); }
   void chkPrev_Click();
@@ -70,7 +71,8 @@ class MainForm final : public forms::Form {
   forms::MenuItem mnuFileSeperator{mnuFile, "mnuFileSeperator", "-"};
   forms::MenuItem mnuExit{mnuFile, "mnuExit", "&Exit", "", &MainForm::cmdExit_Click};
   forms::Menu mnuEdit{*this, "mnuEdit", "&Edit"};
-  forms::MenuItem mnuPalette{mnuEdit, "mnuPalette", "Change &Palette...", "Ctrl+P"};
+  forms::MenuItem mnuPalette{mnuEdit, "mnuPalette", "Change &Palette...", "Ctrl+P",
+                             &MainForm::cmdPalette_Click};
   forms::MenuItem mnuInfo{mnuEdit, "mnuInfo", "View &File Info...", "Ctrl+F", {}, forms::Disabled};
   forms::MenuItem mnuOptions{mnuEdit, "mnuOptions", "&Options...", "Ctrl+T", {}, forms::Disabled};
   forms::Menu mnuHelp{*this, "mnuHelp", "&Help"};
@@ -166,7 +168,7 @@ class MainForm final : public forms::Form {
                                 &MainForm::cmdBatch_Click,
                                 forms::Disabled};
   forms::CommandButton cmdPalette{
-      *this, "cmdPalette", "Change &Palette", {4560, 4200, 1335, 495}, {}};
+      *this, "cmdPalette", "Change &Palette", {4560, 4200, 1335, 495}, &MainForm::cmdPalette_Click};
   forms::CommandButton cmdInfo{*this, "cmdInfo",      "View &File Info", {6000, 4200, 1095, 495},
                                {},    forms::Disabled};
   forms::CommandButton cmdExit{

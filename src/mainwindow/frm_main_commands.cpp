@@ -2,6 +2,7 @@
 #include "conversion/frm_preview_toolbar.h"
 #include "conversion/show_preview.h"
 #include "mainwindow/frm_main.h"
+#include "palette/frm_colour.h"
 #include "palette/frm_pal_toolbar.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
@@ -28,6 +29,10 @@ void MainForm::cmdConvert_Click() {
   frmConvert->Show(forms::vbModal, *this);
   enableOpen(false);
   enableConvert(false);
+}
+
+void MainForm::cmdPalette_Click() {
+  frmColour->Show(forms::vbModal, *this);
 }
 
 void MainForm::cmdBatch_Click() {

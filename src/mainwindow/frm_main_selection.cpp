@@ -7,18 +7,6 @@
 
 namespace mill {
 
-namespace {
-
-/// Makes `entry` the box's text, and one of its entries if it isn't yet.
-void pick(forms::ComboBox& box, const std::string& entry) {
-  int index = 0;
-  while (index < box.ListCount() && box.List(index) != entry) ++index;
-  if (index == box.ListCount()) box.AddItem(entry);
-  box.setText(entry);
-}
-
-}  // namespace
-
 void MainForm::warnIfDirectoriesAreOne() {
   if (lstDest.Text() == lstSource.Text()) warn(Fault::SameDirectory);
 }
@@ -76,7 +64,7 @@ void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::s
   state.BrowseResult = box.Text();
   frmBrowse->Show(forms::vbModal, *this);
   if (state.BrowseResult.empty()) return;
-  pick(box, state.BrowseResult);
+  box.pick(state.BrowseResult);
   directory = box.Text();
 }
 
@@ -100,7 +88,7 @@ void MainForm::cmdBrowseDefault_Click() {
   frmFileBrowse->Show(forms::vbModal, *this);
   if (state.BrowseResult.empty() || state.FileResult.empty()) return;
   state.FileResult = forms::join(state.BrowseResult, state.FileResult);
-  pick(lstDefault, state.FileResult);
+  lstDefault.pick(state.FileResult);
   state.DefaultPalette = state.FileResult;
 }
 

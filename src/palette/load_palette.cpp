@@ -4,6 +4,7 @@
 #include <array>
 
 #include "palette/palette_file.h"
+#include "picture/fault.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/files.h"
@@ -13,39 +14,49 @@ namespace mill {
 
 namespace {
 
-void tell(Fault fault) {
-  forms::MsgBox({.text = std::string(message(fault))});
-}
-
-Fault readCurrentPalette() {
-  if (!forms::isNormalFile(state.CurrentPaletteFile)) return Fault::PaletteMissing;
-  forms::InputFile file(state.CurrentPaletteFile);
+Fault readFile(const std::string& path, std::string& head, ColourTable& colours) {
+  if (!forms::isNormalFile(path)) return Fault::PaletteMissing;
+  forms::InputFile file(path);
   if (!file.isOpen()) return Fault::PaletteUnreadable;
   std::array<std::uint8_t, kPaletteFileSize> bytes{};
   const auto size = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), bytes.size()));
   const auto there = std::span(bytes).first(size);
   if (!file.read(there)) return Fault::PaletteUnreadable;
-  return readPalette(there, state.PaletteHeader, state.PaletteTable);
+  return readPalette(there, head, colours);
 }
 
-bool writeCurrentPalette() {
-  const auto bytes = paletteBytes(state.PaletteHeader, state.PaletteTable);
-  forms::OutputFile file(state.CurrentPaletteFile, static_cast<std::int64_t>(bytes.size()));
+bool writeFile(const std::string& path, const ColourTable& colours) {
+  const auto bytes = paletteBytes(state.PaletteHeader, colours);
+  forms::OutputFile file(path, static_cast<std::int64_t>(bytes.size()));
   return file.isOpen() && file.write(bytes) && file.close();
 }
 
 }  // namespace
 
+bool readPaletteFile(const std::string& path, std::string& head, ColourTable& colours) {
+  const Fault fault = readFile(path, head, colours);
+  if (fault == Fault::PaletteUnreadable) {
+    warn(fault, path);
+  } else if (fault != Fault::None) {
+    forms::MsgBox({.text = std::string(message(fault))});
+  }
+  return fault == Fault::None || fault == Fault::PaletteIncomplete;
+}
+
+bool writePaletteFile(const std::string& path, const ColourTable& colours) {
+  if (writeFile(path, colours)) return true;
+  warn(Fault::PaletteUnwritable, path);
+  return false;
+}
+
 void LoadPalette() {
-  const Fault fault = readCurrentPalette();
-  if (fault != Fault::None) tell(fault);
-  const bool changed = fault == Fault::None || fault == Fault::PaletteIncomplete;
-  if (changed && state.ShowPal && updateSwatches) updateSwatches();
+  const bool read =
+      readPaletteFile(state.CurrentPaletteFile, state.PaletteHeader, state.PaletteTable);
+  if (read && state.ShowPal && updateSwatches) updateSwatches();
 }
 
 void SavePalette() {
-  if (writeCurrentPalette()) return;
-  warn(Fault::PaletteUnwritable, state.CurrentPaletteFile);
+  writePaletteFile(state.CurrentPaletteFile, state.PaletteTable);
 }
 
 }  // namespace mill

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <string>
+
+#include "picture/picture_record.h"
 
 namespace mill {
 
@@ -8,12 +11,19 @@ namespace mill {
 /// itself here when it is loaded.
 inline std::function<void()> updateSwatches;
 
-/// Reads `CurrentPaletteFile` into `PaletteTable` and `PaletteHeader`. A file that isn't there,
-/// can't be read or is too short brings its message; only a short one changes the palette.
+/// Reads the palette file at `path`. A file that isn't there, can't be read or is too short brings
+/// its message; a short one gives what it has, the others leave `head` and `colours` alone. True
+/// where these have been read.
+bool readPaletteFile(const std::string& path, std::string& head, ColourTable& colours);
+
+/// Writes `PaletteHeader` and `colours` over the file at `path`, keeping the tail of a longer one.
+/// False, with a message, where that fails.
+bool writePaletteFile(const std::string& path, const ColourTable& colours);
+
+/// Reads `CurrentPaletteFile` into `PaletteTable` and `PaletteHeader`.
 void LoadPalette();
 
-/// Writes `PaletteHeader` and `PaletteTable` over `CurrentPaletteFile`, keeping the tail of a
-/// longer file. A failure brings a message.
+/// Writes `PaletteTable` over `CurrentPaletteFile`.
 void SavePalette();
 
 }  // namespace mill

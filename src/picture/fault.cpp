@@ -30,6 +30,10 @@ std::string_view message(Fault fault) {
       return "The palette file can't be read.";
     case Fault::PaletteUnwritable:
       return "The palette file can't be written.";
+    case Fault::PaletteListMissing:
+      return "The palette list file does not exist.";
+    case Fault::NotAPaletteList:
+      return "This file is not a valid palette list.";
   }
   return "";
 }

@@ -19,6 +19,8 @@ enum class Fault {
   PaletteIncomplete,
   PaletteUnreadable,
   PaletteUnwritable,
+  PaletteListMissing,
+  NotAPaletteList,
 };
 
 /// The text that tells the user of `fault`; empty for `Fault::None`.

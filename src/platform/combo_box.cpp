@@ -64,6 +64,13 @@ void ComboBox::AddItem(const std::string& entry) {
   box->setEditText(text);
 }
 
+void ComboBox::pick(const std::string& entry) {
+  int index = 0;
+  while (index < ListCount() && List(index) != entry) ++index;
+  if (index == ListCount()) AddItem(entry);
+  setText(entry);
+}
+
 int ComboBox::ListCount() const {
   return as<QComboBox>()->count();
 }

@@ -17,6 +17,8 @@ class ComboBox : public Control {
   void setText(const std::string& text);
   /// Adds an entry at the end; the text stays as it is.
   void AddItem(const std::string& entry);
+  /// Makes `entry` the text, and one of the entries at the end if it isn't one yet.
+  void pick(const std::string& entry);
   int ListCount() const;
   /// The entry at `index`, from 0.
   std::string List(int index) const;

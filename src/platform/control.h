@@ -32,6 +32,7 @@ enum Trait : unsigned {
   Default = 1,   ///< command buttons: Enter presses it
   Cancel = 2,    ///< command buttons: Escape presses it
   Disabled = 4,  ///< can't be used until code enables it
+  ReadOnly = 8,  ///< text boxes: shows text that only code changes
 };
 constexpr Trait operator|(Trait a, Trait b) {
   return static_cast<Trait>(static_cast<unsigned>(a) | static_cast<unsigned>(b));

@@ -44,13 +44,19 @@ class LabelWidget final : public QLabel {
  public:
   LabelWidget(QWidget* parent, LabelStyle style) : QLabel(parent), style_(style) {
     setTextFormat(Qt::PlainText);
-    if (style == LabelStyle::Bordered) setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    if (style == LabelStyle::Bordered || style == LabelStyle::Patch)
+      setFrameStyle(QFrame::Panel | QFrame::Sunken);
     if (style == LabelStyle::Heading) {
       QFont heading = font();
       heading.setPixelSize(16);
       heading.setBold(true);
       setFont(heading);
     }
+  }
+
+  void setBackColour(const QColor& colour) {
+    backColour_ = colour;
+    update();
   }
 
   void showText(const QString& text) {
@@ -65,6 +71,7 @@ class LabelWidget final : public QLabel {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
+    if (backColour_.isValid()) painter.fillRect(rect(), backColour_);
     drawFrame(&painter);
     const int gap = style_ == LabelStyle::Bordered ? 2 : 0;
     const int wrap = style_ == LabelStyle::AutoSize   ? Qt::TextSingleLine
@@ -77,6 +84,7 @@ class LabelWidget final : public QLabel {
 
  private:
   const LabelStyle style_;
+  QColor backColour_;
 };
 
 Label::Label(Container& parent, const char* name, const char* caption, const Rect& place,
@@ -92,6 +100,10 @@ std::string Label::Caption() const {
 
 void Label::setCaption(const std::string& caption) {
   as<LabelWidget>()->showText(shown(caption));
+}
+
+void Label::setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
+  as<LabelWidget>()->setBackColour(QColor(red, green, blue));
 }
 
 Frame::Frame(Container& parent, const char* name, const char* caption, const Rect& place)
@@ -130,9 +142,11 @@ void CheckBox::setValue(int value) {
   as<QCheckBox>()->setChecked(value == 1);
 }
 
-TextBox::TextBox(Container& parent, const char* name, const Rect& place, Handler change)
-    : Control(parent, name, new QLineEdit(parent.host()), place) {
+TextBox::TextBox(Container& parent, const char* name, const Rect& place, Handler change,
+                 Trait traits)
+    : Control(parent, name, new QLineEdit(parent.host()), place, traits) {
   borrowLabel(parent);
+  as<QLineEdit>()->setReadOnly((traits & ReadOnly) != 0);
   QObject::connect(as<QLineEdit>(), &QLineEdit::textChanged,
                    [this, change = std::move(change)] { change(form_); });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/control.h"
@@ -12,6 +13,7 @@ enum class LabelStyle {
   AutoSize,  ///< as large as its text
   Bordered,  ///< fixed, with a border, for a path: wraps anywhere
   Heading,   ///< fixed, 12 point and bold
+  Patch,     ///< fixed, with a border, for a colour
 };
 
 /// Plain text that the user can't change; `&` and `<` in it stand for themselves.
@@ -22,6 +24,7 @@ class Label : public Control {
 
   std::string Caption() const;
   void setCaption(const std::string& caption);
+  void setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue);
 };
 
 /// A border around controls that belong together. Their places are relative to it.
@@ -54,7 +57,8 @@ class CheckBox : public Control {
 /// One line of text that raises Change whenever it becomes another.
 class TextBox : public Control {
  public:
-  TextBox(Container& parent, const char* name, const Rect& place, Handler change = {});
+  TextBox(Container& parent, const char* name, const Rect& place, Handler change = {},
+          Trait traits = Plain);
 
   std::string Text() const;
   void setText(const std::string& text);

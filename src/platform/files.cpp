@@ -72,6 +72,18 @@ bool isDirectory(const std::string& path) {
   return !native.empty() && fs::is_directory(native, error);
 }
 
+bool exists(const std::string& path) {
+  const fs::path native = nativePath(path);
+  std::error_code error;
+  return !native.empty() && fs::exists(native, error);
+}
+
+bool makeDirectory(const std::string& path) {
+  const fs::path native = nativePath(path);
+  std::error_code error;
+  return !native.empty() && fs::create_directory(native, error);
+}
+
 bool isSame(const std::string& path, const std::string& other) {
   const fs::path a = nativePath(path);
   const fs::path b = nativePath(other);

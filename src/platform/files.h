@@ -11,8 +11,13 @@ namespace forms {
 
 bool isNormalFile(const std::string& path);
 bool isDirectory(const std::string& path);
+/// Whether there is anything under that name.
+bool exists(const std::string& path);
 /// True where both paths lead to the same file or directory, by whatever name or link.
 bool isSame(const std::string& path, const std::string& other);
+
+/// Makes one directory in one that is there. False where that fails.
+bool makeDirectory(const std::string& path);
 
 /// The names of the normal files in a directory that match a pattern of `*` and `?`, without regard
 /// to case, in the order of the file system; none where the directory can't be read.

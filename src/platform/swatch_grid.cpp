@@ -1,5 +1,6 @@
 #include "platform/swatch_grid.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -31,7 +32,13 @@ class Grid final : public QWidget {
     if (!std::exchange(stale_, true)) update();
   }
 
+  std::function<void(int)> clicked;
+
  protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) clicked(indexAt(event->position().toPoint()));
+  }
+
   void paintEvent(QPaintEvent*) override {
     stale_ = false;
     QPainter painter(this);
@@ -43,6 +50,12 @@ class Grid final : public QWidget {
   }
 
  private:
+  /// The line between two swatches belongs to the second, which lies over the first.
+  int indexAt(const QPoint& point) const {
+    const auto step = [this](int at) { return std::clamp(at / pitch_, 0, kColumns - 1); };
+    return step(point.y()) * kColumns + step(point.x());
+  }
+
   QRect placeOf(int index) const {
     return {index % kColumns * pitch_, index / kColumns * pitch_, pitch_ + 1, pitch_ + 1};
   }
@@ -54,9 +67,12 @@ class Grid final : public QWidget {
 
 }  // namespace
 
-SwatchGrid::SwatchGrid(Container& parent, const char* name, int left, int top, int pitch)
+SwatchGrid::SwatchGrid(Container& parent, const char* name, int left, int top, int pitch,
+                       IndexHandler click)
     : Control(parent, name, new Grid(parent.host(), name, pixels(pitch)),
-              {left, top, kColumns * pitch + kTwipsPerPixel, kColumns * pitch + kTwipsPerPixel}) {}
+              {left, top, kColumns * pitch + kTwipsPerPixel, kColumns * pitch + kTwipsPerPixel}) {
+  as<Grid>()->clicked = [this, click = std::move(click)](int index) { click(form_, index); };
+}
 
 void SwatchGrid::setBackColor(int index, std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
   as<Grid>()->setColour(index, qRgb(red, green, blue));

@@ -1,0 +1,134 @@
+#include "palette/frm_pal_extract.h"
+
+#include <algorithm>
+#include <array>
+
+#include "dialogs/frm_browse.h"
+#include "palette/load_palette.h"
+#include "palette/show_colours.h"
+#include "picture/fault.h"
+#include "picture/program_state.h"
+#include "picture/warn.h"
+#include "platform/files.h"
+#include "platform/msg_box.h"
+#include "platform/number_text.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+namespace {
+
+Fault readList(const std::string& path, std::vector<ListPalette>& palettes) {
+  if (!forms::isNormalFile(path)) return Fault::PaletteListMissing;
+  forms::InputFile file(path);
+  std::array<std::uint8_t, kListHeadSize> head{};
+  if (!file.isOpen() || !file.read(head)) return Fault::NotAPaletteList;
+  int count = 0;
+  const Fault fault = checkPaletteList(head, file.size(), count);
+  if (fault != Fault::None) return fault;
+  const ReadBytes rest = [&](std::span<std::uint8_t> bytes) { return file.read(bytes); };
+  return readPaletteList(count, rest, palettes);
+}
+
+/// The name of a list file without its last four characters, whatever they are.
+std::string baseName(const std::string& listFile) {
+  const std::string withoutEnd =
+      listFile.substr(0, listFile.size() - std::min<std::size_t>(4, listFile.size()));
+  return std::string(forms::fileNameOf(withoutEnd));
+}
+
+}  // namespace
+
+PalExtractForm::PalExtractForm()
+    : Form({.Name = "frmPalExtract",
+            .Caption = "Palette Extractor",
+            .BorderStyle = forms::Border::FixedSingle,
+            .Client = {4935, 6495},
+            .Position = forms::StartUpPosition::CentreOwner}) {}
+
+void PalExtractForm::showPalette() {
+  showColours(palette1, onShow().Entries);
+  txtIndex.setText(std::to_string(onShow().Index));
+}
+
+void PalExtractForm::cmdSourceBrowse_Click() {
+  if (!CDlg1.ShowOpen(state.PalDir)) return;
+  ListFile = CDlg1.FileName();
+  lstSource.AddItem(ListFile);
+  lstSource.setText(ListFile);
+}
+
+void PalExtractForm::lstSource_Change() {
+  cmdLoad.setEnabled(true);
+  ListLoaded = false;
+  cmdPrev.setEnabled(false);
+  cmdNext.setEnabled(false);
+  cmdSave.setEnabled(false);
+}
+
+void PalExtractForm::lstSource_Click() {
+  ListFile = lstSource.Text();
+  lstSource_Change();
+}
+
+void PalExtractForm::cmdLoad_Click() {
+  if (const Fault fault = readList(ListFile, ListPalettes); fault != Fault::None) {
+    return warn(fault);
+  }
+  const auto count = static_cast<int>(ListPalettes.size());
+  txtNumber.setText(std::to_string(count));
+  ListPosition = static_cast<std::int16_t>(std::min<int>(ListPosition, count - 1));
+  showPalette();
+  cmdPrev.setEnabled(true);
+  cmdNext.setEnabled(true);
+  if (!lstDest.Text().empty()) cmdSave.setEnabled(true);
+  ListLoaded = true;
+  cmdLoad.setEnabled(false);
+}
+
+void PalExtractForm::cmdDestBrowse_Click() {
+  frmBrowse->setCaption("Browse for Destination Directory");
+  state.BrowseResult = lstDest.Text();
+  frmBrowse->Show(forms::vbModal, *this);
+  if (!state.BrowseResult.empty()) lstDest.pick(state.BrowseResult);
+}
+
+void PalExtractForm::lstDest_Change() {
+  if (!lstDest.Text().empty() && ListLoaded) cmdSave.setEnabled(true);
+  ExtractDir = lstDest.Text();
+}
+
+void PalExtractForm::cmdPrev_Click() {
+  if (ListPosition <= 0) return;
+  --ListPosition;
+  showPalette();
+}
+
+void PalExtractForm::cmdNext_Click() {
+  if (forms::numberOf(txtNumber.Text(), 0, kListLimit) - 1 <= ListPosition) return;
+  ++ListPosition;
+  showPalette();
+}
+
+std::string PalExtractForm::outputDirectory() const {
+  return AddListName ? forms::join(ExtractDir, baseName(ListFile)) : ExtractDir;
+}
+
+/// False, with a message, where the palette on show couldn't be written.
+bool PalExtractForm::savePalette() const {
+  const std::string directory = outputDirectory();
+  const std::string path = forms::join(directory, std::to_string(onShow().Index) + ".pal");
+  if (AddListName && !forms::exists(directory) && !forms::makeDirectory(directory)) {
+    warn(Fault::PaletteUnwritable, path);
+    return false;
+  }
+  return writePaletteFile(path, onShow().Entries);
+}
+
+void PalExtractForm::cmdSave_Click() {
+  cmdSave.setEnabled(false);
+  if (savePalette()) forms::MsgBox({.text = "Palette file saved!"});
+  cmdSave.setEnabled(true);
+}
+
+}  // namespace mill
