@@ -1,5 +1,7 @@
 #include "harness.h"
 
+#include <QTest>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -102,6 +104,11 @@ QWidget* window(const char* form) {
   fail(std::string("no window ") + form);
 }
 
+void waitUntilShown(const char* form) {
+  require(QTest::qWaitForWindowExposed(window(form)), std::string(form) + " is shown");
+  settle();
+}
+
 void showMainWindow(const Folders& folders) {
   const auto set = [](const char* key, const fs::path& path) {
     forms::SaveSetting(forms::App.Title, "Settings", key, forms::drivePath(path.string()));
@@ -116,7 +123,7 @@ void showMainWindow(const Folders& folders) {
     forms::SaveFlag(forms::App.Title, "Settings", flag, search);
   }
   frmMain->Show();
-  settle();
+  waitUntilShown("frmMain");
 }
 
 void unloadMainWindow() {

@@ -42,6 +42,8 @@ void settle();
 void empty(const std::filesystem::path& folder);
 
 QWidget* window(const char* form);
+/// Waits until a window is on the screen; before that, nothing is painted.
+void waitUntilShown(const char* form);
 
 template <class W>
 W* control(const char* form, const char* name) {

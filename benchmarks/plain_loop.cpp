@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::size_t kSourceHead = 44;
 constexpr std::size_t kTargetHead = 1078;
+/// So much is written at a time; more doesn't gain anything.
+constexpr std::size_t kPiece = 1 << 20;
 
 void require(bool done, const std::string& what) {
   if (done) return;
@@ -54,15 +56,12 @@ std::size_t readWhole(const std::string& path, Buffer& buffer) {
   return size;
 }
 
-void writeWhole(const std::string& path, const std::uint8_t* bytes, std::size_t size) {
-  const int file = ::open(path.c_str(), O_WRONLY | O_CREAT, 0666);
-  require(file >= 0, path);
+void writeAll(int file, const std::uint8_t* bytes, std::size_t size) {
   for (std::size_t done = 0; done < size;) {
     const ssize_t count = ::write(file, bytes + done, size - done);
-    require(count > 0, path);
+    require(count > 0, "write");
     done += static_cast<std::size_t>(count);
   }
-  require(::close(file) == 0, path);
 }
 
 void putHead(std::uint8_t* target, int width, int height) {
@@ -90,16 +89,22 @@ void convertPlainly(const std::vector<std::string>& names, const std::string& fr
   Buffer target;
   const auto row = static_cast<std::size_t>(width);
   const auto rows = static_cast<std::size_t>(height);
-  const std::size_t size = kTargetHead + row * rows;
   for (const std::string& name : names) {
     readWhole(from + "/" + name, source);
-    std::uint8_t* out = target.atLeast(size);
-    putHead(out, width, height);
     const std::uint8_t* pixels = source.atLeast(0) + kSourceHead;
-    for (std::size_t y = 0; y < rows; ++y) {
-      std::memcpy(out + kTargetHead + y * row, pixels + (rows - 1 - y) * row, row);
+    const int file = ::open((to + "/" + name).c_str(), O_WRONLY | O_CREAT, 0666);
+    require(file >= 0, name);
+    std::uint8_t* out = target.atLeast(kPiece + row);
+    putHead(out, width, height);
+    std::size_t used = kTargetHead;
+    for (std::size_t y = rows; y-- > 0;) {
+      std::memcpy(out + used, pixels + y * row, row);
+      used += row;
+      if (used < kPiece && y > 0) continue;
+      writeAll(file, out, used);
+      used = 0;
     }
-    writeWhole(to + "/" + name, out, size);
+    require(::close(file) == 0, name);
   }
 }
 

@@ -1,7 +1,10 @@
 #include "windows.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QTest>
 
 #include <cstdio>
@@ -10,9 +13,11 @@
 #include "harness.h"
 #include "mainwindow/frm_main.h"
 #include "palette/find_palette.h"
+#include "palette/frm_pal_extract.h"
 #include "palette/frm_pal_toolbar.h"
 #include "picture/program_state.h"
 #include "plain_loop.h"
+#include "platform/common_dialog.h"
 
 namespace mill::bench {
 
@@ -43,6 +48,7 @@ void clickToPreview(const Folders& folders) {
   const auto names = makePictures(folders.source, 10, 640, 480);
   showMainWindow(folders);
   tick("chkPrev", true);
+  waitUntilShown("frmPreviewToolbar");
   tick("chkAutoPrev", true);
   std::vector<double> times;
   for (int row = 0; row < 10; ++row) {
@@ -66,6 +72,7 @@ void dragPreview(const Folders& folders) {
   makePictures(folders.source, 1, 4096, 4096);
   showMainWindow(folders);
   tick("chkPrev", true);
+  waitUntilShown("frmPreviewToolbar");
   tick("chkResize", false);
   tick("chkAutoPrev", true);
   click(0);
@@ -98,7 +105,7 @@ void searchPalette(const fs::path& folder) {
 
 void updateSwatches256() {
   frmPalToolbar->Show();
-  settle();
+  waitUntilShown("frmPalToolbar");
   std::vector<double> times;
   for (std::uint8_t i = 1; i < 100; ++i) {
     for (ColourEntry& colour : state.PaletteTable) colour.Red = i;
@@ -113,6 +120,42 @@ void updateSwatches256() {
   frmPalToolbar->Unload();
   settle();
   state = {};
+}
+
+/// A list file of `count` palettes without any colour in common.
+void makeList(const fs::path& path, int count) {
+  std::string bytes(static_cast<std::size_t>(52 + 1032 * count), '\0');
+  for (std::size_t i = 52; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 31 + i / 1032);
+  for (std::size_t i = 0; i < 4; ++i) bytes[4 + i] = static_cast<char>(count >> 8 * i);
+  std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<long>(bytes.size()));
+}
+
+void walkList(const fs::path& folder) {
+  makeList(folder / "long.ksl", 32767);
+  forms::answerCommonDialogWith([&] { return (folder / "long.ksl").string(); });
+  frmPalExtract->Show();
+  waitUntilShown("frmPalExtract");
+  std::vector<double> loads, steps;
+  for (int i = 0; i < 5; ++i) {
+    control<QPushButton>("frmPalExtract", "cmdSourceBrowse")->click();
+    control<QComboBox>("frmPalExtract", "lstSource")->lineEdit()->clear();
+    QTest::keyClick(control<QComboBox>("frmPalExtract", "lstSource")->lineEdit(), Qt::Key_X);
+    loads.push_back(
+        measure([] { control<QPushButton>("frmPalExtract", "cmdLoad")->click(); }).elapsed);
+  }
+  auto* next = control<QPushButton>("frmPalExtract", "cmdNext");
+  require(next->isEnabled() && next->isVisible(), "the list was loaded");
+  for (int i = 0; i < 50; ++i) {
+    steps.push_back(measure([&] {
+                      next->click();
+                      window("frmPalExtract")->repaint();
+                    }).elapsed);
+  }
+  print("loading a list of 32,767 palettes", loads, "500");
+  print("a step through the list, painted", steps, "20");
+  forms::answerCommonDialogWith({});
+  frmPalExtract->Unload();
+  settle();
 }
 
 void listFiles(const Folders& folders) {
@@ -140,6 +183,7 @@ void runWindows(const fs::path& folder) {
   dragPreview(folders);
   searchPalette(folder / "palettes");
   updateSwatches256();
+  walkList(folder);
   listFiles(folders);
 }
 

@@ -48,6 +48,8 @@ void ConvertForm::cmdYes_Click() {
   if (directoriesAreOne()) return Hide();
   enableButtons(false);
   convertSelection();
+  Progress1.Refresh();
+  Progress2.Refresh();
   state.PictureFileName.clear();
   enableButtons(true);
   Hide();

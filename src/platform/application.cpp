@@ -52,7 +52,7 @@ struct Desktop::Private {
   int argc = 1;
   char* argv[2];
   QApplication application;
-  DialogKeys keys;
+  FormInput input;
 
   explicit Private(char* programName) : argv{programName, nullptr}, application(argc, argv) {}
 };
@@ -63,7 +63,7 @@ Desktop::Desktop(char* programName) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new CompactStyle);
   QApplication::setFont(defaultFont());
-  private_->application.installEventFilter(&private_->keys);
+  private_->application.installEventFilter(&private_->input);
 }
 
 Desktop::~Desktop() {

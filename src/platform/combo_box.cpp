@@ -1,32 +1,14 @@
 #include "platform/combo_box.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include <utility>
 
+#include "platform/calm_combo_box.h"
 #include "platform/text.h"
 
 namespace forms {
-
-namespace {
-
-/// A wheel that turns over a closed box scrolls nothing away under the user's hand.
-class CalmComboBox final : public QComboBox {
- public:
-  using QComboBox::QComboBox;
-
- protected:
-  void wheelEvent(QWheelEvent* event) override {
-    if (hasFocus() && view()->isVisible()) return QComboBox::wheelEvent(event);
-    event->ignore();
-  }
-};
-
-}  // namespace
 
 ComboBox::ComboBox(Container& parent, const char* name, const Rect& place, Handler change,
                    Handler click)
@@ -49,7 +31,9 @@ std::string ComboBox::Text() const {
 
 void ComboBox::setText(const std::string& text) {
   if (text == Text()) return;
-  as<QComboBox>()->setEditText(shown(text));
+  auto* box = as<QComboBox>();
+  box->setCurrentIndex(box->findText(shown(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+  box->setEditText(shown(text));
   change_(form_);
 }
 

@@ -14,8 +14,6 @@ namespace forms {
 
 namespace {
 
-constexpr int kFilled = Qt::UserRole;
-
 QTreeWidgetItem* makeItem(const std::string& name) {
   auto* item = new QTreeWidgetItem({shown(name)});
   item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
@@ -60,27 +58,25 @@ std::string DirTree::path() const {
 }
 
 void DirTree::choose(const std::string& wanted) {
-  QTreeWidgetItem* item = nullptr;
+  const std::string before = path();
   {
+    // Read anew each time: directories come and go while the dialog is hidden.
     const QSignalBlocker quiet(this);
-    const std::string root = wanted.substr(0, 2) + "\\";
-    if (topLevelItemCount() == 0 || bytesOf(topLevelItem(0)->text(0)) != root) showDrive(root);
-    item = topLevelItem(0);
-  }
-  std::string_view rest(wanted);
-  rest.remove_prefix(2);
-  while (!rest.empty()) {
-    const std::size_t end = std::min(rest.find('\\'), rest.size());
-    if (end > 0) {
-      fill(item);
-      item->setExpanded(true);
-      item = child(item, std::string(rest.substr(0, end)));
+    clear();
+    QTreeWidgetItem* item = makeItem(wanted.substr(0, 2) + "\\");
+    addTopLevelItem(item);
+    open(item);
+    std::string_view rest(wanted);
+    rest.remove_prefix(2);
+    while (!rest.empty()) {
+      const std::size_t end = std::min(rest.find('\\'), rest.size());
+      if (end > 0) open(item = child(item, std::string(rest.substr(0, end))));
+      rest.remove_prefix(std::min(end + 1, rest.size()));
     }
-    rest.remove_prefix(std::min(end + 1, rest.size()));
+    setCurrentItem(item);
   }
-  item->setExpanded(true);
-  setCurrentItem(item);
-  scrollTo(indexFromItem(item), PositionAtCenter);
+  scrollTo(currentIndex(), PositionAtCenter);
+  if (path() != before) changed();
 }
 
 /// Sideways, Qt would show the middle of the widest name. The beginning of this one is what counts,
@@ -97,14 +93,13 @@ void DirTree::scrollTo(const QModelIndex& index, ScrollHint hint) {
   }
 }
 
-void DirTree::showDrive(const std::string& root) {
-  clear();
-  addTopLevelItem(makeItem(root));
+void DirTree::open(QTreeWidgetItem* item) {
+  fill(item);
+  item->setExpanded(true);
 }
 
 void DirTree::fill(QTreeWidgetItem* item) {
-  if (item->data(0, kFilled).toBool()) return;
-  item->setData(0, kFilled, true);
+  qDeleteAll(item->takeChildren());
   std::string path = bytesOf(item->text(0));
   for (auto* above = item->parent(); above; above = above->parent()) {
     path = join(bytesOf(above->text(0)), path);

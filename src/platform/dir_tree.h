@@ -10,7 +10,7 @@ namespace forms {
 /// The parent directory of a path in drive form; a drive's root is its own parent.
 std::string parentOf(const std::string& path);
 
-/// The directories of one drive. Each level is read when it is first opened.
+/// The directories of one drive. Each level is read whenever it is opened.
 class DirTree final : public QTreeWidget {
  public:
   explicit DirTree(QWidget* parent);
@@ -26,7 +26,7 @@ class DirTree final : public QTreeWidget {
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  private:
-  void showDrive(const std::string& root);
+  void open(QTreeWidgetItem* item);
   void fill(QTreeWidgetItem* item);
   QTreeWidgetItem* child(QTreeWidgetItem* item, const std::string& name);
 };

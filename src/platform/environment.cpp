@@ -23,14 +23,24 @@ bool isPrivate(const std::filesystem::path& directory) {
          status.st_uid == ::getuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
+/// A directory that is new to everybody, for the rest of the run.
+std::string freshDirectory() {
+  static const std::string fresh = [] {
+    std::string pattern = (std::filesystem::temp_directory_path() / "raster-mill-XXXXXX").string();
+    return std::string(::mkdtemp(pattern.data()) ? pattern : "");
+  }();
+  return fresh;
+}
+
 std::string ownDirectory() {
   std::string base = variable("XDG_CACHE_HOME");
   if (base.empty()) base = variable("HOME").append("/.cache");
   const std::filesystem::path own = std::filesystem::path(base) / "raster-mill";
   std::error_code error;
   std::filesystem::create_directories(own, error);
-  std::filesystem::permissions(own, std::filesystem::perms::owner_all, error);
-  return drivePath(own.string());
+  if (isPrivate(own)) std::filesystem::permissions(own, std::filesystem::perms::owner_all, error);
+  return drivePath(isPrivate(own) && !std::filesystem::is_symlink(own, error) ? own.string()
+                                                                              : freshDirectory());
 }
 
 }  // namespace

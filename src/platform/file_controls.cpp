@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "platform/calm_combo_box.h"
 #include "platform/dir_tree.h"
 #include "platform/file_view.h"
 #include "platform/files.h"
@@ -32,13 +33,23 @@ std::string withoutDots(std::string path) {
 }  // namespace
 
 DriveListBox::DriveListBox(Container& parent, const char* name, const Rect& place, Handler change)
-    : Control(parent, name, new QComboBox(parent.host()), place) {
+    : Control(parent, name, new CalmComboBox(parent.host()), place) {
   auto* box = as<QComboBox>();
   box->setAccessibleName(QStringLiteral("Drive"));
-  for (const std::string& drive : drives()) box->addItem(shown(drive));
+  readDrives();
   box->setCurrentText(QStringLiteral("Z:"));
   QObject::connect(box, &QComboBox::currentIndexChanged,
                    [this, change = std::move(change)] { change(form_); });
+}
+
+/// Drives come and go; the present one stays where it is still there.
+void DriveListBox::readDrives() {
+  auto* box = as<QComboBox>();
+  const QSignalBlocker quiet(box);
+  const QString present = box->currentText();
+  box->clear();
+  for (const std::string& drive : drives()) box->addItem(shown(drive));
+  box->setCurrentText(present);
 }
 
 std::string DriveListBox::Drive() const {
@@ -46,6 +57,7 @@ std::string DriveListBox::Drive() const {
 }
 
 void DriveListBox::setDrive(const std::string& drive) {
+  readDrives();
   auto* box = as<QComboBox>();
   const int index = box->findText(shown(drive), Qt::MatchFixedString);
   if (index >= 0) box->setCurrentIndex(index);

@@ -17,6 +17,9 @@ class DriveListBox : public Control {
   std::string Drive() const;
   /// A drive that isn't there changes nothing.
   void setDrive(const std::string& drive);
+
+ private:
+  void readDrives();
 };
 
 /// The directories of one drive as a tree. One click or an arrow key chooses, and what is

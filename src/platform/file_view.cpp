@@ -1,6 +1,5 @@
 #include "platform/file_view.h"
 
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -60,49 +59,39 @@ int FileView::chosenRow() const {
   if (selection.isEmpty()) return -1;
   const int current = currentIndex().row();
   const bool one = selection.size() == 1 && selection.first().height() == 1;
-  return one && !isSelected(current) ? selection.first().top() : current;
+  return current < 0 || (one && !isSelected(current)) ? selection.first().top() : current;
 }
 
 void FileView::mousePressEvent(QMouseEvent* event) {
+  // The other buttons select nothing.
+  if (event->button() != Qt::LeftButton) return;
   changed_ = false;
-  gesture_ = event->button() == Qt::LeftButton ? Gesture::Click : Gesture::None;
+  gesture_ = indexAt(event->position().toPoint()).isValid() ? Gesture::OnItem : Gesture::OffItems;
   QListView::mousePressEvent(event);
-  // A press on no item selects nothing unless it takes a selection away.
-  if (!indexAt(event->position().toPoint()).isValid() && !changed_) gesture_ = Gesture::None;
 }
 
 void FileView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
   const bool onItem = indexAt(event->position().toPoint()).isValid();
-  gesture_ = event->button() == Qt::LeftButton && onItem ? Gesture::DoubleClick : Gesture::None;
+  gesture_ = onItem ? Gesture::DoubleClick : Gesture::OffItems;
+  changed_ = false;
   QListView::mouseDoubleClickEvent(event);
 }
 
 void FileView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
   QListView::mouseReleaseEvent(event);
-  // The handlers may open windows, so they run when the gesture is over.
-  switch (std::exchange(gesture_, Gesture::None)) {
-    case Gesture::Click:
-      clicked();
-      break;
-    case Gesture::DoubleClick:
-      doubleClicked();
-      break;
-    case Gesture::None:
-      break;
-  }
+  // The handlers may open windows, so they run when the gesture is over. A click on a file counts
+  // even where it changes nothing.
+  const Gesture gesture = std::exchange(gesture_, Gesture::None);
+  if (gesture == Gesture::DoubleClick) return doubleClicked();
+  if (gesture == Gesture::OnItem || (gesture == Gesture::OffItems && changed_)) clicked();
 }
 
 void FileView::keyPressEvent(QKeyEvent* event) {
   changed_ = false;
   QListView::keyPressEvent(event);
   if (changed_) clicked();
-}
-
-void FileView::focusInEvent(QFocusEvent* event) {
-  const bool hadCurrent = currentIndex().isValid();
-  QListView::focusInEvent(event);
-  // Coming here by Tab chooses no file yet.
-  if (!hadCurrent) selectionModel()->clearCurrentIndex();
 }
 
 }  // namespace forms

@@ -43,10 +43,9 @@ class FileView final : public QListView {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
 
  private:
-  enum class Gesture { None, Click, DoubleClick };
+  enum class Gesture { None, OnItem, OffItems, DoubleClick };
 
   NameModel model_;
   Gesture gesture_ = Gesture::None;

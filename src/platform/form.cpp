@@ -133,8 +133,11 @@ void Form::Show(Mode mode) {
 }
 
 void Form::Show(Mode mode, Form& owner) {
+  // Only a window that comes up anew can become modal.
+  shell_->hide();
   place(owner.Visible() ? &owner : nullptr);
   if (mode == vbModeless) return present();
+  owner_ = &owner;
   QEventLoop loop;
   shell_->loop = &loop;
   shell_->setWindowModality(Qt::ApplicationModal);
@@ -183,8 +186,11 @@ void Form::Refresh() {
 }
 
 void Form::leave() {
-  modal_ = false;
+  const bool wasModal = std::exchange(modal_, false);
   Screen.forget(*this);
+  // Left to itself, a desktop may give the focus to no window at all.
+  Form* next = Screen.ActiveForm();
+  if (wasModal && next && next->Visible()) next->shell_->activateWindow();
   if (QEventLoop* loop = std::exchange(shell_->loop, nullptr)) loop->quit();
 }
 
@@ -244,6 +250,8 @@ void ScreenInfo::forget(Form& form) {
   if (active_ != &form) return;
   active_ = nullptr;
   if (!modal_.empty()) return activate(*modal_.back());
+  Form* owner = std::exchange(form.owner_, nullptr);
+  if (owner && owner->Visible()) return activate(*owner);
   for (int i = 0; i < Forms.Count(); ++i) {
     if (Forms[i].Visible()) return activate(Forms[i]);
   }

@@ -118,6 +118,7 @@ class Form : public Container {
   const FormLook look_;
   Shell* shell_;
   std::string caption_;
+  Form* owner_ = nullptr;  ///< while it is shown modally
   Pointer pointer_ = vbDefault;
   bool loaded_ = false;
   bool placed_ = false;

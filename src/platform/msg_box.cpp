@@ -50,13 +50,19 @@ QMessageBox::Icon iconOf(Icon icon) {
   return QMessageBox::NoIcon;
 }
 
+/// A long path may break behind each of its separators, since a box breaks lines between words
+/// only.
+QString breakable(const std::string& text) {
+  return shown(text).replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
+}
+
 }  // namespace
 
 Answer MsgBox(const Message& message) {
   if (answerer) return answerer(message);
   const QString title = message.title.empty() ? shown(App.Title) : shown(message.title);
   Form* owner = Screen.ActiveForm();
-  QMessageBox box(iconOf(message.icon), title, shown(message.text),
+  QMessageBox box(iconOf(message.icon), title, breakable(message.text),
                   standardButtons(message.buttons),
                   owner && owner->Visible() ? owner->host()->window() : nullptr);
   box.setObjectName(QStringLiteral("MsgBox"));

@@ -49,6 +49,10 @@ void ProgressBar::follow() {
   }
 }
 
+void ProgressBar::Refresh() {
+  if (value_ != painted_) paint();
+}
+
 void ProgressBar::paint() {
   const auto begin = std::chrono::steady_clock::now();
   painted_ = value_;

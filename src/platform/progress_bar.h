@@ -22,6 +22,9 @@ class ProgressBar : public Control {
     if (value_ != painted_) follow();
   }
 
+  /// Paints the value now, at the end of a run.
+  void Refresh();
+
   /// The time that all bars together have spent in painting during runs.
   static std::chrono::nanoseconds paintingTime();
 

@@ -61,17 +61,39 @@ bool Shell::event(QEvent* event) {
   return QWidget::event(event);
 }
 
-bool DialogKeys::eventFilter(QObject* receiver, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) return false;
-  const auto* key = static_cast<QKeyEvent*>(event);
-  const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-  if (!enter && key->key() != Qt::Key_Escape) return false;
+namespace {
+
+bool isInput(const QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+bool FormInput::eventFilter(QObject* receiver, QEvent* event) {
+  if (!isInput(event)) return false;
   auto* widget = qobject_cast<QWidget*>(receiver);
   // Lists that drop down are windows of their own, and an open menu bar leaves with Escape.
   auto* shell = widget ? dynamic_cast<Shell*>(widget->window()) : nullptr;
-  if (!shell || qobject_cast<QMenuBar*>(widget)) return false;
-  QPushButton* button = enter ? shell->defaultButton : shell->cancelButton;
-  if (button && !key->isAutoRepeat()) button->click();
+  if (!shell) return false;
+  if (!shell->isVisible()) return true;
+  return event->type() == QEvent::KeyPress && !qobject_cast<QMenuBar*>(widget) &&
+         takeKey(*shell, *static_cast<QKeyEvent*>(event));
+}
+
+bool FormInput::takeKey(Shell& shell, const QKeyEvent& key) {
+  const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  if (!enter && key.key() != Qt::Key_Escape) return false;
+  QPushButton* button = enter ? shell.defaultButton : shell.cancelButton;
+  if (button && !key.isAutoRepeat()) button->click();
   return true;
 }
 

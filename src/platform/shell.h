@@ -42,10 +42,15 @@ class Shell final : public QWidget {
   const bool fixedSize_;
 };
 
-/// Gives Enter and Escape to the buttons that have these roles, and to nothing else in a form.
-class DialogKeys final : public QObject {
+/// What all forms have in common about input: Enter and Escape go to the buttons that have these
+/// roles, and to nothing else; and a form that has been hidden takes no input that was meant for it
+/// before, such as the second half of a double click on its button.
+class FormInput final : public QObject {
  public:
   bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  static bool takeKey(Shell& shell, const QKeyEvent& key);
 };
 
 }  // namespace forms

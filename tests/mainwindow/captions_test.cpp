@@ -1,14 +1,18 @@
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTest>
 
 #include "conversion/frm_convert.h"
 #include "dialogs/frm_browse.h"
 #include "dialogs/frm_file_browse.h"
 #include "dialogs/frm_save.h"
 #include "mainwindow/frm_main.h"
+#include "palette/frm_colour.h"
+#include "palette/frm_pal_extract.h"
 #include "palette/frm_pal_select.h"
 #include "support/windows.h"
 
@@ -34,6 +38,9 @@ int spareRoom(const QWidget* widget) {
     const QRect need =
         label->fontMetrics().boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text());
     return std::min(label->height() - need.height(), label->width() - need.width());
+  }
+  if (const auto* frame = qobject_cast<const QGroupBox*>(widget)) {
+    return frame->width() - 16 - textWidth(frame, frame->title());
   }
   return 0;
 }
@@ -73,9 +80,31 @@ TEST_F(Captions, NoneIsCutAndNoControlLiesOverAnother) {
   frmFileBrowse->Show();
   frmSave->Show();
   frmPalSelect->Show();
-  for (const char* form :
-       {"frmMain", "frmConvert", "frmBrowse", "frmFileBrowse", "frmSave", "frmPalSelect"}) {
+  frmColour->Show();
+  frmPalExtract->Show();
+  for (const char* form : {"frmMain", "frmConvert", "frmBrowse", "frmFileBrowse", "frmSave",
+                           "frmPalSelect", "frmColour", "frmPalExtract"}) {
     expectRoomForAll(form);
+  }
+}
+
+TEST_F(Captions, TheTabKeyGoesDownOneColumnAfterTheOther) {
+  frmColour->Show();
+  frmPalExtract->Show();
+  for (const char* form : {"frmColour", "frmPalExtract"}) {
+    QWidget* window = test::window(form);
+    window->activateWindow();
+    for (auto* button : window->findChildren<QPushButton*>()) button->setEnabled(true);
+    std::vector<const QWidget*> left = controls(form);
+    std::erase_if(left, [](auto* widget) { return !(widget->focusPolicy() & Qt::TabFocus); });
+    for (QWidget* now = window->focusWidget(); std::erase(left, now) > 0;) {
+      QWidget* before = now;
+      QTest::keyClick(before, Qt::Key_Tab);
+      now = window->focusWidget();
+      const bool goesOn = now->y() > before->y() || now->x() > before->x();
+      EXPECT_TRUE(goesOn || left.empty()) << form << "." << now->objectName().toStdString();
+    }
+    EXPECT_TRUE(left.empty()) << form << "." << left.front()->objectName().toStdString();
   }
 }
 
