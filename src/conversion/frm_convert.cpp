@@ -89,10 +89,7 @@ bool ConvertForm::convertFile(const std::string& name) {
   Progress1.setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
-    // A refusal may change the flag, but the picture that stays open may yet come up in this run.
-    const bool wasStandard = state.IsStandardBitmap;
     OpenPicture(forms::join(sourceDirectory(), name));
-    if (name != state.PictureFileName) state.IsStandardBitmap = wasStandard;
   }
   bool written = true;
   if (name == state.PictureFileName) {

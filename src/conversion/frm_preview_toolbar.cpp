@@ -16,14 +16,15 @@ PreviewForm::PreviewForm()
             .Client = {4575, 3495}}) {}
 
 PreviewForm::~PreviewForm() {
-  fitPreview = {};
+  // An unloaded window outlives its successor's loading.
+  if (!frmPreviewToolbar.isLoaded()) fitPreview = {};
 }
 
 void PreviewForm::Form_Load() {
   fitPreview = [this](std::int32_t width, std::int32_t height) {
-    // A bitmap whose rows run from the top has a negative height.
-    setHeight(forms::Screen.TwipsPerPixelY() * std::abs(double{1} * height) + 420);
-    setWidth(forms::Screen.TwipsPerPixelX() * double{1} * width + 180);
+    // A bitmap whose rows run from the top has a negative height. 180 and 420 are the frame.
+    setSize(double{forms::kTwipsPerPixel} * width + 180,
+            double{forms::kTwipsPerPixel} * std::abs(static_cast<double>(height)) + 420);
   };
 }
 

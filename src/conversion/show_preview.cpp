@@ -1,5 +1,7 @@
 #include "conversion/show_preview.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 #include "conversion/frm_preview_toolbar.h"
@@ -9,8 +11,20 @@
 
 namespace mill {
 
+namespace {
+
+/// The height of a bitmap whose rows run from the top is negative.
+int rowsOf(const PictureRecord& record) {
+  const std::int64_t rows = std::abs(std::int64_t{record.biHeight});
+  return static_cast<int>(std::min<std::int64_t>(rows, INT32_MAX));
+}
+
+}  // namespace
+
 std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path) {
-  const PixelSize size = state.ResizeFit ? PixelSize{} : frmPreviewToolbar->boxSize();
+  const PixelSize box = frmPreviewToolbar->boxSize();
+  if (!state.ResizeFit && (box.width == 0 || box.height == 0)) return nullptr;
+  const PixelSize size = state.ResizeFit ? PixelSize{} : box;
   auto bitmap = forms::Bitmap::load(path, size.width, size.height);
   if (!bitmap) forms::MsgBox({.text = "error loading bitmap."});
   return bitmap;
@@ -18,12 +32,13 @@ std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path) {
 
 void ShowPreview() {
   const forms::Hourglass hourglass;
+  frmPreviewToolbar->paint(nullptr, {});
   state.PreviewDC.reset();
   state.PreviewDC = LoadBitmapDC(state.TempPicturePath);
   const PictureRecord& record = state.PictureRecord;
-  const PixelSize size = state.ResizeFit ? PixelSize{record.biWidth, std::abs(record.biHeight)}
-                                         : frmPreviewToolbar->boxSize();
-  frmPreviewToolbar->paint(state.PreviewDC.get(), size);
+  frmPreviewToolbar->paint(state.PreviewDC.get(), state.ResizeFit
+                                                      ? PixelSize{record.biWidth, rowsOf(record)}
+                                                      : frmPreviewToolbar->boxSize());
 }
 
 }  // namespace mill

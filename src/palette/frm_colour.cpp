@@ -90,28 +90,40 @@ void ColourForm::cmdInvertAll_Click() {
 }
 
 std::string ColourForm::pickFile(const char* caption) {
+  directoryBefore_ = state.BrowseResult;
+  nameBefore_ = state.FileResult;
   state.BrowseResult = state.DefaultPalette;
   state.FilePattern = "*.pal";
   frmSave->setCaption(caption);
   frmSave->Show(forms::vbModal, *this);
-  hasFile_ = false;
-  if (state.BrowseResult.empty() || state.FileResult.empty()) return {};
-  return forms::join(state.BrowseResult, state.FileResult);
+  // The close box unloads the dialog and leaves the names as they were; that chooses nothing.
+  const bool chosen =
+      frmSave.isLoaded() && !state.BrowseResult.empty() && !state.FileResult.empty();
+  if (chosen) return forms::join(state.BrowseResult, state.FileResult);
+  keepFile();
+  return {};
+}
+
+void ColourForm::keepFile() {
+  state.BrowseResult = directoryBefore_;
+  state.FileResult = nameBefore_;
 }
 
 void ColourForm::cmdLoad_Click() {
   const std::string path = pickFile("Load Palette File");
   if (path.empty()) return;
   std::string head;  // dropped: a file saved here gets that of the palette in use
-  hasFile_ = readPaletteFile(path, head, WorkingPalette);
-  if (hasFile_) showColours(palette1, WorkingPalette);
+  if (!readPaletteFile(path, head, WorkingPalette)) return keepFile();
+  hasFile_ = true;
+  showColours(palette1, WorkingPalette);
 }
 
 void ColourForm::cmdSave_Click() {
   std::string path = pickFile("Save File");
   if (path.empty()) return;
   if (!path.ends_with(".pal")) path += ".pal";
-  hasFile_ = writePaletteFile(path, WorkingPalette);
+  if (!writePaletteFile(path, WorkingPalette)) return keepFile();
+  hasFile_ = true;
 }
 
 void ColourForm::cmdExtract_Click() {

@@ -36,10 +36,14 @@ class ColourForm final : public forms::Form {
   ColourEntry boxColour() const;
   /// Lets the user pick a file; its full path, empty on Cancel.
   std::string pickFile(const char* caption);
+  /// Puts back the names of the file that counted before `pickFile`.
+  void keepFile();
 
   ColourTable WorkingPalette{};
   /// Whether `BrowseResult` and `FileResult` name a file that was loaded or saved here.
   bool hasFile_ = false;
+  std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `pickFile`
+  std::string nameBefore_;
 
   forms::SwatchGrid palette1{*this, "palette1", 120, 120, 240, &ColourForm::showColour};
 
@@ -62,28 +66,28 @@ class ColourForm final : public forms::Form {
   forms::Label lblOrginal{Frame2, "lblOrginal", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
 
   forms::CommandButton cmdOK{
-      *this, "cmdOK", "OK", {4050, 120, 1305, 375}, &ColourForm::cmdOK_Click, forms::Default};
+      *this, "cmdOK", "OK", {4035, 120, 1320, 375}, &ColourForm::cmdOK_Click, forms::Default};
   forms::CommandButton cmdCancel{
-      *this,        "cmdCancel", "Cancel", {4050, 600, 1305, 375}, &ColourForm::cmdCancel_Click,
+      *this,        "cmdCancel", "Cancel", {4035, 600, 1320, 375}, &ColourForm::cmdCancel_Click,
       forms::Cancel};
   forms::CommandButton cmdExtract{*this,
                                   "cmdExtract",
                                   "Extract Palette",
-                                  {4050, 1080, 1305, 375},
+                                  {4035, 1080, 1320, 375},
                                   &ColourForm::cmdExtract_Click};
   forms::CommandButton cmdLoad{
-      *this, "cmdLoad", "Load Palette", {4050, 1560, 1305, 375}, &ColourForm::cmdLoad_Click};
+      *this, "cmdLoad", "Load Palette", {4035, 1560, 1320, 375}, &ColourForm::cmdLoad_Click};
   forms::CommandButton cmdSave{
-      *this, "cmdSave", "Save Palette", {4050, 2040, 1305, 375}, &ColourForm::cmdSave_Click};
+      *this, "cmdSave", "Save Palette", {4035, 2040, 1320, 375}, &ColourForm::cmdSave_Click};
   forms::CommandButton cmdInvertAll{*this,
                                     "cmdInvertAll",
                                     "Invert All Colours",
-                                    {4050, 2520, 1305, 375},
+                                    {4035, 2520, 1320, 375},
                                     &ColourForm::cmdInvertAll_Click};
   forms::CommandButton cmdInvert{
-      *this, "cmdInvert", "Invert Colour", {4050, 3000, 1305, 375}, &ColourForm::cmdInvert_Click};
+      *this, "cmdInvert", "Invert Colour", {4035, 3000, 1320, 375}, &ColourForm::cmdInvert_Click};
   forms::CommandButton cmdNew{
-      *this, "cmdNew", "Set New Colour", {4050, 3480, 1305, 375}, &ColourForm::cmdNew_Click};
+      *this, "cmdNew", "Set New Colour", {4035, 3480, 1320, 375}, &ColourForm::cmdNew_Click};
 };
 
 inline forms::Global<ColourForm> frmColour;

@@ -14,7 +14,8 @@ PalToolbarForm::PalToolbarForm()
             .Client = {1920, 1935}}) {}
 
 PalToolbarForm::~PalToolbarForm() {
-  updateSwatches = {};
+  // An unloaded window outlives its successor's loading.
+  if (!frmPalToolbar.isLoaded()) updateSwatches = {};
 }
 
 void PalToolbarForm::Form_Load() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 #include "palette/find_palette.h"
@@ -67,7 +68,6 @@ Fault readKestrel(PictureFile& file, const Magic& magic) {
   if (fault == Fault::None) fault = checkKestrelHead(bytes, file.size(), head);
   if (fault != Fault::None) return fault;
   fault = readKestrelBitmap(head, file.rest(), state.PictureRecord, openingProgress());
-  if (fault == Fault::None) state.IsStandardBitmap = false;
   return fault;
 }
 
@@ -86,7 +86,6 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
   if (fault == Fault::None) fault = checkStandardHead(bytes, file.size(), header);
   if (fault != Fault::None) return fault;
   fault = readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
-  if (fault == Fault::None) state.IsStandardBitmap = true;
   return fault;
 }
 
@@ -95,12 +94,12 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
 void OpenPicture(const std::string& path) {
   if (!forms::isNormalFile(path)) return warn(Fault::PictureMissing);
 
-  PictureFile file(path);
+  std::optional<PictureFile> file(path);
   Magic magic{};
   Fault fault = Fault::None;
   {
     const forms::Hourglass hourglass;
-    fault = file.readMagic(magic);
+    fault = file->readMagic(magic);
   }
   if (fault != Fault::None) return warn(fault);
 
@@ -118,12 +117,14 @@ void OpenPicture(const std::string& path) {
   std::string before = std::exchange(state.PictureFileName, {});
   {
     const forms::Hourglass hourglass;
-    fault = standard ? readStandard(file, magic) : readKestrel(file, magic);
+    fault = standard ? readStandard(*file, magic) : readKestrel(*file, magic);
   }
   if (fault != Fault::None) {
     state.PictureFileName = std::move(before);
     return warn(fault);
   }
+  file.reset();
+  state.IsStandardBitmap = state.RecordIsStandard = standard;
   if (standard) takeColours();
 
   if (!isConverting() && state.ResizeFit && fitPreview) {

@@ -40,6 +40,9 @@ struct ProgramState {
   /// name it stays after a conversion.
   std::string PictureSourceFile;
   bool IsStandardBitmap = false;
+  /// Whether `PictureRecord` came from a standard bitmap. The flag above tells the same until a
+  /// file is refused, which changes it while the record stays.
+  bool RecordIsStandard = false;
 
   /// The bitmap that the preview shows; null before the first one and after a failed load.
   std::unique_ptr<forms::Bitmap> PreviewDC;

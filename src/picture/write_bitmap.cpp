@@ -33,12 +33,12 @@ bool WriteBitmap(const std::string& path) {
     return false;
   }
   Progress& progress = writingProgress();
-  if (!state.IsStandardBitmap) {
+  if (!state.RecordIsStandard) {
     fillOutputHeader(state.PictureRecord);
     progress.start(state.PictureRecord.bfSize);
   }
   state.PictureRecord.Colours = state.PaletteTable;
-  const RowOrder rows = state.IsStandardBitmap ? RowOrder::AsStored : RowOrder::BottomUp;
+  const RowOrder rows = state.RecordIsStandard ? RowOrder::AsStored : RowOrder::BottomUp;
   if (writeFile(path, rows, progress)) return true;
   warn(Fault::Unwritable, path);
   return false;

@@ -44,6 +44,8 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
+  /// What a screen reader calls it, where that isn't its caption.
+  std::string AccessibleName() const;
   bool Enabled() const;
   void setEnabled(bool enabled);
 
@@ -66,6 +68,8 @@ class Control {
 
  private:
   QWidget* widget_;
+  /// Where the focus went when this control was disabled under it.
+  QWidget* focusLeftFor_ = nullptr;
 };
 
 }  // namespace forms

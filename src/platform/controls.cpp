@@ -32,7 +32,19 @@ bool Control::Enabled() const {
 }
 
 void Control::setEnabled(bool enabled) {
+  const bool hadFocus = widget_->hasFocus();
   widget_->setEnabled(enabled);
+  QWidget* focus = widget_->window()->focusWidget();
+  if (!enabled && hadFocus) {
+    focusLeftFor_ = focus;
+  } else if (enabled && std::exchange(focusLeftFor_, nullptr) == focus && focus) {
+    // Disabled for a while only, it gets back the focus that nobody has moved since.
+    widget_->setFocus();
+  }
+}
+
+std::string Control::AccessibleName() const {
+  return bytesOf(widget_->accessibleName());
 }
 
 void Control::borrowLabel(Container& parent) {
@@ -156,6 +168,7 @@ std::string TextBox::Text() const {
 }
 
 void TextBox::setText(const std::string& text) {
+  if (text == Text()) return;  // which would move the cursor
   as<QLineEdit>()->setText(shown(text));
 }
 

@@ -15,6 +15,13 @@ void NameModel::setNames(std::vector<std::string> names) {
   endResetModel();
 }
 
+void NameModel::addName(std::string name) {
+  const int row = rowCount();
+  beginInsertRows({}, row, row);
+  names_.push_back(std::move(name));
+  endInsertRows();
+}
+
 int NameModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(names_.size());
 }
@@ -39,6 +46,11 @@ FileView::FileView(QWidget* parent, bool extended) : QListView(parent) {
 
 void FileView::setNames(std::vector<std::string> names) {
   model_.setNames(std::move(names));
+  selectedIsStale_ = true;
+}
+
+void FileView::addName(std::string name) {
+  model_.addName(std::move(name));
   selectedIsStale_ = true;
 }
 

@@ -15,6 +15,7 @@ class NameModel final : public QAbstractListModel {
   using QAbstractListModel::QAbstractListModel;
 
   void setNames(std::vector<std::string> names);
+  void addName(std::string name);
   const std::vector<std::string>& names() const { return names_; }
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -30,6 +31,7 @@ class FileView final : public QListView {
   FileView(QWidget* parent, bool extended);
 
   void setNames(std::vector<std::string> names);
+  void addName(std::string name);
   const std::vector<std::string>& names() const { return model_.names(); }
   bool isSelected(int row) const;
   /// The current row or, where that isn't selected, the only one that is; -1 when none is selected.

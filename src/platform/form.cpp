@@ -82,14 +82,10 @@ bool Form::Visible() const {
   return shell_->isVisible();
 }
 
-void Form::setHeight(double height) {
-  shell_->resize(shell_->width(),
-                 clientPixels(height - kFrame.Height, shell_->screen()->virtualSize().height()));
-}
-
-void Form::setWidth(double width) {
-  shell_->resize(clientPixels(width - kFrame.Width, shell_->screen()->virtualSize().width()),
-                 shell_->height());
+void Form::setSize(double width, double height) {
+  const QSize screen = shell_->screen()->virtualSize();
+  shell_->resize(clientPixels(width - kFrame.Width, screen.width()),
+                 clientPixels(height - kFrame.Height, screen.height()));
 }
 
 int Form::ScaleHeight() const {
@@ -160,6 +156,8 @@ void Form::place(const Form* owner) {
   } else if (!placed_) {
     if (look_.Position == StartUpPosition::Manual) {
       shell_->setGeometry(QRect(QPoint(pixels(look_.At.Left), pixels(look_.At.Top)), size));
+    } else if (isToolWindow(look_)) {
+      placeBesideMain();
     } else if (look_.Position != StartUpPosition::System) {
       const QPoint centre = QGuiApplication::primaryScreen()->availableGeometry().center();
       shell_->move(centre - QPoint(size.width() / 2, size.height() / 2));
@@ -168,8 +166,31 @@ void Form::place(const Form* owner) {
   placed_ = true;
 }
 
+/// The main window comes up in the middle of the screen, where a desktop would put a tool window
+/// that is shown before it.
+void Form::placeBesideMain() {
+  constexpr int kGap = 12;
+  constexpr QMargins kFramePixels(1, 22, 1, 5);
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  QRect main(QPoint(), Forms[0].shell_->size());
+  main.moveCenter(screen.center());
+  if (Forms[0].Visible()) main = Forms[0].shell_->geometry();
+  const QSize size = shell_->size();
+  for (const QPoint& place : {QPoint(main.right() + kGap, main.top()),
+                              QPoint(main.left() - kGap - size.width(), main.top()),
+                              QPoint(main.left(), main.bottom() + kGap + kFramePixels.top())}) {
+    const QRect whole = QRect(place, size) + kFramePixels;
+    bool isFree = screen.contains(whole);
+    for (int i = 0; i < Forms.Count(); ++i) {
+      isFree &= !Forms[i].Visible() || !whole.intersects(Forms[i].shell_->frameGeometry());
+    }
+    if (isFree) return shell_->setGeometry(QRect(place, size));
+  }
+}
+
 void Form::present() {
   const bool wasVisible = Visible();
+  if (isToolWindow(look_)) shell_->setWindowState(shell_->windowState() & ~Qt::WindowMinimized);
   shell_->show();
   if (!wasVisible) shell_->focusFirst();
   if (!isToolWindow(look_)) shell_->activateWindow();
@@ -177,6 +198,8 @@ void Form::present() {
 }
 
 void Form::Hide() {
+  // Without a place of its own a window that comes back is placed anew by the desktop.
+  if (Visible()) shell_->windowHandle()->setFramePosition(shell_->frameGeometry().topLeft());
   shell_->hide();
   leave();
 }
@@ -234,7 +257,8 @@ void FormCollection::remove(Form& form) {
 
 void ScreenInfo::show(Form& form) {
   if (form.modal_) modal_.push_back(&form);
-  active_ = &form;
+  // A tool window comes up to date, but the window in use stays the active one.
+  if (!isToolWindow(form.look_) || !active_) active_ = &form;
   form.Form_Activate();
 }
 

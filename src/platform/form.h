@@ -81,8 +81,7 @@ class Form : public Container {
   void setCaption(const std::string& caption);
   bool Visible() const;
   /// The size of the whole window in twips, in which the frame counts as 180 × 420.
-  void setHeight(double height);
-  void setWidth(double width);
+  void setSize(double width, double height);
   /// The client area in twips.
   int ScaleHeight() const;
   int ScaleWidth() const;
@@ -110,6 +109,7 @@ class Form : public Container {
   friend class ScreenInfo;
 
   void place(const Form* owner);
+  void placeBesideMain();
   void present();
   void leave();
   void activated();

@@ -13,14 +13,12 @@ ListBox::ListBox(Container& parent, const char* name, const Rect& place, Handler
 }
 
 void ListBox::AddItem(const std::string& text) {
-  std::vector<std::string> texts = as<FileView>()->names();
-  texts.push_back(text);
-  as<FileView>()->setNames(std::move(texts));
+  as<FileView>()->addName(text);
 }
 
 std::string ListBox::Text() const {
-  const int row = as<FileView>()->currentIndex().row();
-  return SelCount() == 0 ? std::string() : as<FileView>()->names()[static_cast<std::size_t>(row)];
+  const int row = as<FileView>()->chosenRow();
+  return row < 0 ? std::string() : as<FileView>()->names()[static_cast<std::size_t>(row)];
 }
 
 int ListBox::SelCount() const {

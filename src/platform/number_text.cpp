@@ -25,7 +25,10 @@ int numberOf(std::string_view text, int lowest, int highest) {
   if (beginsNumber(text)) {
     const auto end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    if (result.ec == std::errc::result_out_of_range) number = HUGE_VAL;
+    // Too large or too small to be told from 0: the digits ahead of the point say which.
+    const auto whole = text.substr(0, text.find('.'));
+    const bool large = whole.find_first_of("123456789") < whole.find_first_not_of("0123456789");
+    if (result.ec == std::errc::result_out_of_range) number = large ? HUGE_VAL : 0;
   }
   const double whole = std::nearbyint(negative ? -number : number);
   return static_cast<int>(std::clamp<double>(whole, lowest, highest));

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "platform/number_text.h"
+#include "platform/text.h"
 
 namespace forms {
 
@@ -65,6 +66,7 @@ class Arrows final : public QWidget {
 UpDown::UpDown(Container& parent, const char* name, const Rect& place, TextBox& buddy, int min,
                int max)
     : Control(parent, name, new Arrows(parent.host()), place), buddy_(buddy), min_(min), max_(max) {
+  as<Arrows>()->setAccessibleName(shown(buddy.AccessibleName()));
   as<Arrows>()->step = [this](int by) { step(by); };
 }
 

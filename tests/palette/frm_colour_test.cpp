@@ -212,7 +212,7 @@ TEST_F(Colour, OKTakesUpTheFileOfTheLastLoadOrSave) {
   const std::tuple<std::function<void()>, std::string, Colours> cases[] = {
       {[] { press("cmdInvertAll"), use("cmdLoad", ""); }, "base.pal", own},
       {extract, "base.pal", own},
-      {[&] { load(), use("cmdLoad", ""); }, "base.pal", own},
+      {[&] { load(), use("cmdLoad", ""); }, "other.pal", other},
       {[&] { load(), press("cmdInvertAll"); }, "other.pal", other},
       {[&] { save("x.pal"); }, "x.pal", inverted(own)},
       {[&] { load(), save("x.pal"); }, "x.pal", inverted(other)},

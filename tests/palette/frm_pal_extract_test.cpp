@@ -47,10 +47,11 @@ class PalExtract : public test::WindowTest {
     QTest::keyClicks(box(name)->lineEdit(), QString::fromStdString(text));
     if (text.empty()) QTest::keyClick(box(name)->lineEdit(), Qt::Key_Delete);
   }
-  /// Picks the entry below the current one, at first the first.
+  /// Picks the first entry.
   static void pickEntry(const char* name) {
-    box(name)->setFocus();
-    QTest::keyClick(box(name), Qt::Key_Down);
+    box(name)->showPopup();
+    QTest::keyClick(box(name)->view(), Qt::Key_Home);
+    QTest::keyClick(box(name)->view(), Qt::Key_Return);
   }
   /// Picks a list file; without a name cancels.
   void pick(const std::string& name) {

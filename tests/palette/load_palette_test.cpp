@@ -45,7 +45,12 @@ TEST_F(LoadPaletteTest, SaysWhatIsWrong) {
     if (c.name == std::string("unreadable")) noFiles.emplace(RLIMIT_NOFILE, 0);
     LoadPalette();
     noFiles.reset();
-    messages.expectLast(1, c.text, "", forms::Icon::None);
+    if (c.name == std::string("unreadable")) {
+      messages.expectLast(1, c.text + ("\n" + state.CurrentPaletteFile), "Warning!",
+                          forms::Icon::Critical);
+    } else {
+      messages.expectLast(1, c.text, "", forms::Icon::None);
+    }
     EXPECT_EQ(state.PaletteTable, c.changes ? ColourTable{} : tableOf(someColours(1)));
     EXPECT_EQ(state.PaletteHeader, c.changes ? kHead : "old");
   }
