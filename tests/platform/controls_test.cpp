@@ -180,6 +180,42 @@ TEST_F(FileList, EachGestureIsOneClick) {
   EXPECT_EQ(frmProbe->taken(), "double ");
 }
 
+TEST_F(FileList, WhatChangesTheSelectionAlwaysTells) {
+  const QPoint below(40, view()->viewport()->height() - 5);
+  click(1);
+  frmProbe->taken();
+  QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, below);
+  EXPECT_EQ(selected(), "");
+  EXPECT_EQ(frmProbe->taken(), "click ");
+  QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, below);
+  EXPECT_EQ(frmProbe->taken(), "");
+
+  click(1);
+  frmProbe->taken();
+  for (const Qt::MouseButton other : {Qt::RightButton, Qt::MiddleButton}) {
+    QTest::mouseClick(view()->viewport(), other, {}, at(3));
+    QTest::mouseClick(view()->viewport(), other, {}, below);
+  }
+  EXPECT_EQ(selected(), "A.BMP ");
+  EXPECT_EQ(frmProbe->taken(), "");
+
+  QTest::mousePress(view()->viewport(), Qt::LeftButton, {}, below);
+  for (int row = 5; row >= 3; --row) QTest::mouseMove(view()->viewport(), at(row));
+  QTest::mouseRelease(view()->viewport(), Qt::LeftButton, {}, at(3));
+  EXPECT_EQ(frmProbe->taken(), "click ");
+}
+
+TEST_F(FileList, TheChosenNameIsOneThatIsSelected) {
+  for (const char* name : {"b.bmp", "A.BMP", "c.bmp", "d.bmp", "e.bmp"}) {
+    std::filesystem::remove(folder.path(name));
+  }
+  frmProbe->filBox.setPath(folder.drive());
+  QTest::keyClick(view(), Qt::Key_A, Qt::ControlModifier);  // one file, and no current one
+  EXPECT_EQ(frmProbe->filBox.FileName(), "<b>f&.bmp");
+  click(0, Qt::ControlModifier);
+  EXPECT_EQ(frmProbe->filBox.FileName(), "");
+}
+
 TEST_F(FileList, KeysThatChangeSomethingAreOneClick) {
   QTest::keyClick(view(), Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(frmProbe->taken(), "click ");

@@ -2,8 +2,10 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTest>
+#include <QWindow>
 
 #include "platform/application.h"
 #include "platform/controls.h"
@@ -112,6 +114,32 @@ TEST_F(Forms, AModalShowReturnsWhenTheWindowIsHiddenOrUnloaded) {
   settle();
 }
 
+TEST_F(Forms, AModalWindowBlocksTheOthersAlsoWhenItWasOpenBefore) {
+  frmMainProbe->Show();
+  frmDialogProbe->Show();
+  settle();
+  whenShown([&] {
+    EXPECT_EQ(QApplication::activeModalWidget(), window("frmDialogProbe"));
+    EXPECT_EQ(window("frmDialogProbe")->windowHandle()->transientParent(),
+              window("frmMainProbe")->windowHandle());
+    frmDialogProbe->Hide();
+  });
+  frmDialogProbe->Show(forms::vbModal, *frmMainProbe);
+  EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMainProbe);
+}
+
+TEST_F(Forms, AHiddenWindowTakesNoInput) {
+  frmDialogProbe->Show();
+  frmDialogProbe->Hide();
+  auto* button = control<QPushButton>("frmDialogProbe", "cmdOK");
+  for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, {5, 5}, button->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {});
+    QApplication::sendEvent(button, &event);
+  }
+  EXPECT_EQ(frmDialogProbe->pressed, "");
+}
+
 TEST_F(Forms, CloseBoxes) {
   frmMainProbe->Show();
   frmToolProbe->Show();
@@ -180,6 +208,7 @@ TEST_F(Forms, NamesAndTextsArePlain) {
   EXPECT_EQ(control("frmDialogProbe", "txtName")->accessibleName(), label->text());
   EXPECT_EQ(window("frmDialogProbe")->size(), QSize(200, 100));
   EXPECT_EQ(QApplication::font().pixelSize(), 11);
+  EXPECT_EQ(QFontInfo(QApplication::font()).family(), QStringLiteral("Liberation Sans"));
 }
 
 TEST_F(Forms, TheHourglassStandsUntilTheEventLoopIsBack) {
