@@ -62,7 +62,7 @@ void settlePalette() {
   const std::vector<std::string> matches = matchingPalettes();
   if (matches.empty()) {
     state.CurrentPaletteFile = state.DefaultPalette;
-  } else if (matches.size() == 1 || !choosePalette) {
+  } else if (matches.size() == 1) {
     state.CurrentPaletteFile = matches.front();
   } else {
     choosePalette(matches);

@@ -7,7 +7,7 @@
 namespace mill {
 
 /// Lets the user choose one of several palette files, and leaves the choice in
-/// `CurrentPaletteFile`. The chooser window stands behind it.
+/// `CurrentPaletteFile`. The main window puts the chooser here before a picture can be opened.
 inline std::function<void(const std::vector<std::string>& paths)> choosePalette;
 
 /// Shows the path of the current palette on the main window.

@@ -211,6 +211,7 @@ void Form::Refresh() {
 void Form::leave() {
   const bool wasModal = std::exchange(modal_, false);
   Screen.forget(*this);
+  owner_ = nullptr;  // which may be gone before this window is shown again
   // Left to itself, a desktop may give the focus to no window at all.
   Form* next = Screen.ActiveForm();
   if (wasModal && next && next->Visible()) next->shell_->activateWindow();
@@ -274,8 +275,7 @@ void ScreenInfo::forget(Form& form) {
   if (active_ != &form) return;
   active_ = nullptr;
   if (!modal_.empty()) return activate(*modal_.back());
-  Form* owner = std::exchange(form.owner_, nullptr);
-  if (owner && owner->Visible()) return activate(*owner);
+  if (form.owner_ && form.owner_->Visible()) return activate(*form.owner_);
   for (int i = 0; i < Forms.Count(); ++i) {
     if (Forms[i].Visible()) return activate(Forms[i]);
   }
