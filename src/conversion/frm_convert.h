@@ -63,7 +63,8 @@ class ConvertForm final : public forms::Form, private ConversionProgress {
                       "Label2",
                       "Are you sure you want to continue with the bitmap conversion.",
                       {120, 120, 3615, 1095},
-                      forms::LabelStyle::Heading};
+                      forms::LabelStyle::Fixed,
+                      {.Points = 12, .Bold = true}};
   forms::Label Label3{
       *this, "Label3", "Open Progress:", {120, 1320, 1095, 195}, forms::LabelStyle::AutoSize};
   forms::ProgressBar Progress2{*this, "Progress2", {120, 1560, 3735, 255}};

@@ -10,7 +10,8 @@ BrowseForm::BrowseForm()
             .Caption = "Browse for Source Directory",
             .BorderStyle = forms::Border::FixedDialog,
             .Client = {3825, 2865},
-            .Position = forms::StartUpPosition::CentreOwner}) {}
+            .Position = forms::StartUpPosition::CentreOwner,
+            .Icon = true}) {}
 
 void BrowseForm::Form_Activate() {
   if (!state.BrowseResult.empty()) startAt(Drive1, Dir1, state.BrowseResult);

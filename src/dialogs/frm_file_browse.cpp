@@ -11,6 +11,7 @@ FileBrowseForm::FileBrowseForm()
             .BorderStyle = forms::Border::FixedDialog,
             .Client = {6030, 2895},
             .Position = forms::StartUpPosition::Manual,
+            .Icon = true,
             .At = {2760, 3750}}) {}
 
 void FileBrowseForm::Form_Activate() {

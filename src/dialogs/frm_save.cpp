@@ -10,7 +10,8 @@ SaveForm::SaveForm()
             .Caption = "Save File",
             .BorderStyle = forms::Border::FixedDialog,
             .Client = {5985, 3495},
-            .Position = forms::StartUpPosition::CentreOwner}) {}
+            .Position = forms::StartUpPosition::CentreOwner,
+            .Icon = true}) {}
 
 void SaveForm::Form_Activate() {
   if (!state.BrowseResult.empty()) startAtFile(Drive1, Dir1, state.BrowseResult);

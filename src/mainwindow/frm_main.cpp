@@ -19,7 +19,8 @@ MainForm::MainForm()
             .BorderStyle = forms::Border::FixedSingle,
             .Client = {8535, 4815},
             .Position = forms::StartUpPosition::CentreScreen,
-            .MinButton = true}) {}
+            .MinButton = true,
+            .Icon = true}) {}
 
 void MainForm::Form_Load() {
   readSettings();
@@ -34,6 +35,7 @@ void MainForm::Form_Load() {
   fillBoxes();
   loadDefaultPalette();
   setCheckBoxes();
+  started_ = true;
 }
 
 void MainForm::fillBoxes() {

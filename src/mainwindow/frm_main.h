@@ -23,6 +23,7 @@ class MainForm final : public forms::Form {
   // Start-up and shut-down.
   void Form_Load() override;
   void Form_Unload() override;
+  void Form_Activate() override { mnuOptions.setEnabled(started_); }
   void Form_Resize() override;
   void fillBoxes();
   void loadDefaultPalette();
@@ -47,6 +48,9 @@ class MainForm final : public forms::Form {
   void cmdConvert_Click();
   void cmdPalette_Click();
   void cmdBatch_Click();
+  void cmdInfo_Click();
+  void mnuOptions_Click();
+  void mnuAbout_Click();
   void cmdExit_Click() { Unload(); }
   void chkPrev_Click();
   void showToolWindow(forms::Form& window, bool shown);
@@ -73,10 +77,13 @@ class MainForm final : public forms::Form {
   forms::Menu mnuEdit{*this, "mnuEdit", "&Edit"};
   forms::MenuItem mnuPalette{mnuEdit, "mnuPalette", "Change &Palette...", "Ctrl+P",
                              &MainForm::cmdPalette_Click};
-  forms::MenuItem mnuInfo{mnuEdit, "mnuInfo", "View &File Info...", "Ctrl+F", {}, forms::Disabled};
-  forms::MenuItem mnuOptions{mnuEdit, "mnuOptions", "&Options...", "Ctrl+T", {}, forms::Disabled};
+  forms::MenuItem mnuInfo{
+      mnuEdit,        "mnuInfo", "View &File Info...", "Ctrl+F", &MainForm::cmdInfo_Click,
+      forms::Disabled};
+  forms::MenuItem mnuOptions{
+      mnuEdit, "mnuOptions", "&Options...", "Ctrl+T", &MainForm::mnuOptions_Click, forms::Disabled};
   forms::Menu mnuHelp{*this, "mnuHelp", "&Help"};
-  forms::MenuItem mnuAbout{mnuHelp, "mnuAbout", "&About..."};
+  forms::MenuItem mnuAbout{mnuHelp, "mnuAbout", "&About...", "", &MainForm::mnuAbout_Click};
 
   forms::Label lblSource{
       *this, "lblSource", "Source Directory:", {120, 30, 1230, 195}, forms::LabelStyle::AutoSize};
@@ -169,10 +176,16 @@ class MainForm final : public forms::Form {
                                 forms::Disabled};
   forms::CommandButton cmdPalette{
       *this, "cmdPalette", "Change &Palette", {4560, 4200, 1335, 495}, &MainForm::cmdPalette_Click};
-  forms::CommandButton cmdInfo{*this, "cmdInfo",      "View &File Info", {6000, 4200, 1095, 495},
-                               {},    forms::Disabled};
+  forms::CommandButton cmdInfo{*this,
+                               "cmdInfo",
+                               "View &File Info",
+                               {6000, 4200, 1095, 495},
+                               &MainForm::cmdInfo_Click,
+                               forms::Disabled};
   forms::CommandButton cmdExit{
       *this, "cmdExit", "Exit", {7320, 4200, 1095, 495}, &MainForm::cmdExit_Click};
+
+  bool started_ = false;
 };
 
 inline forms::Global<MainForm> frmMain;

@@ -1,7 +1,10 @@
 #include "conversion/frm_convert.h"
+#include "conversion/frm_info.h"
 #include "conversion/frm_preview_toolbar.h"
 #include "conversion/show_preview.h"
+#include "dialogs/frm_about.h"
 #include "mainwindow/frm_main.h"
+#include "mainwindow/frm_options.h"
 #include "palette/frm_colour.h"
 #include "palette/frm_pal_toolbar.h"
 #include "picture/open_picture.h"
@@ -40,6 +43,18 @@ void MainForm::cmdBatch_Click() {
   enableOpen(false);
   enableConvert(false);
   enableBatch(false);
+}
+
+void MainForm::cmdInfo_Click() {
+  frmInfo->Show(forms::vbModal, *this);
+}
+
+void MainForm::mnuOptions_Click() {
+  frmOptions->Show(forms::vbModal, *this);
+}
+
+void MainForm::mnuAbout_Click() {
+  frmAbout->Show();
 }
 
 /// Afterwards the main window is the active one again.

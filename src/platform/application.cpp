@@ -93,8 +93,10 @@ int Application::run(const std::function<Form&()>& load) {
     loop.quit();
   };
   Form& startUp = load();
-  if (!ended && !startUp.Visible()) startUp.Show();
-  if (!ended) loop.exec();
+  if (!ended) {
+    startUp.Show();
+    loop.exec();
+  }
   Forms.onLastUnloaded = {};
   return 0;
 }

@@ -19,8 +19,7 @@ class Application {
   int Minor() const;
   int Revision() const;
 
-  /// Creates the start-up window, shows it if it hasn't shown itself, and returns when it has been
-  /// unloaded.
+  /// Creates the start-up window, shows it, and returns when it has been unloaded.
   template <class F>
   int run(Global<F>& startUp) {
     return run([&]() -> Form& { return *startUp; });

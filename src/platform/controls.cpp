@@ -4,9 +4,11 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 
+#include <cmath>
 #include <utility>
 
 #include "platform/shell.h"
@@ -54,16 +56,17 @@ void Control::borrowLabel(Container& parent) {
 /// A label that draws its text itself, since a path has to wrap where no word ends.
 class LabelWidget final : public QLabel {
  public:
-  LabelWidget(QWidget* parent, LabelStyle style) : QLabel(parent), style_(style) {
+  LabelWidget(QWidget* parent, LabelStyle style, const Lettering& lettering)
+      : QLabel(parent), style_(style) {
     setTextFormat(Qt::PlainText);
     if (style == LabelStyle::Bordered || style == LabelStyle::Patch)
       setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    if (style == LabelStyle::Heading) {
-      QFont heading = font();
-      heading.setPixelSize(16);
-      heading.setBold(true);
-      setFont(heading);
-    }
+    constexpr Qt::Alignment kSides[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+    setAlignment(kSides[static_cast<int>(lettering.Alignment)] | Qt::AlignTop);
+    QFont letters = font();
+    letters.setPixelSize(static_cast<int>(std::lround(lettering.Points * 20 / kTwipsPerPixel)));
+    letters.setBold(lettering.Bold);
+    setFont(letters);
   }
 
   void setBackColour(const QColor& colour) {
@@ -74,10 +77,10 @@ class LabelWidget final : public QLabel {
   void showText(const QString& text) {
     setText(text);
     setAccessibleName(text);
-    if (style_ == LabelStyle::AutoSize) resize(sizeHint());
-    if (style_ == LabelStyle::Bordered && !text.isEmpty()) {
-      setToolTip(QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped()));
-    }
+    if (style_ == LabelStyle::AutoSize) fitText();
+    const bool told = style_ == LabelStyle::Bordered ? !text.isEmpty() : isCut();
+    setToolTip(told ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
+                    : QString());
   }
 
  protected:
@@ -85,23 +88,47 @@ class LabelWidget final : public QLabel {
     QPainter painter(this);
     if (backColour_.isValid()) painter.fillRect(rect(), backColour_);
     drawFrame(&painter);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(room(), layout(), text());
+  }
+
+  /// A click on a label isn't one on what it stands in.
+  void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+
+ private:
+  QRect room() const {
     const int gap = style_ == LabelStyle::Bordered ? 2 : 0;
+    return contentsRect().adjusted(gap, 0, -gap, 0);
+  }
+
+  int layout() const {
     const int wrap = style_ == LabelStyle::AutoSize   ? Qt::TextSingleLine
                      : style_ == LabelStyle::Bordered ? Qt::TextWordWrap | Qt::TextWrapAnywhere
                                                       : Qt::TextWordWrap;
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(contentsRect().adjusted(gap, 0, -gap, 0),
-                     static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | wrap, text());
+    return static_cast<int>(alignment()) | wrap;
   }
 
- private:
+  bool isCut() const {
+    const QRect need = fontMetrics().boundingRect(room(), layout(), text());
+    return need.width() > room().width() || need.height() > room().height();
+  }
+
+  void fitText() {
+    const QSize size = sizeHint();
+    const int more = size.width() - width();
+    const int left = alignment() & Qt::AlignRight     ? x() - more
+                     : alignment() & Qt::AlignHCenter ? x() - more / 2
+                                                      : x();
+    setGeometry(QRect(QPoint(left, y()), size));
+  }
+
   const LabelStyle style_;
   QColor backColour_;
 };
 
 Label::Label(Container& parent, const char* name, const char* caption, const Rect& place,
-             LabelStyle style)
-    : Control(parent, name, new LabelWidget(parent.host(), style), place) {
+             LabelStyle style, const Lettering& lettering)
+    : Control(parent, name, new LabelWidget(parent.host(), style, lettering), place) {
   parent.lendLabel(caption);
   setCaption(caption);
 }
@@ -118,11 +145,33 @@ void Label::setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue
   as<LabelWidget>()->setBackColour(QColor(red, green, blue));
 }
 
-Frame::Frame(Container& parent, const char* name, const char* caption, const Rect& place)
-    : Control(parent, name, new QGroupBox(shown(caption), parent.host()), place) {}
+/// A group box that tells when it is clicked.
+class FrameWidget final : public QGroupBox {
+ public:
+  using QGroupBox::QGroupBox;
+  std::function<void()> clicked;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_ = event->button() == Qt::LeftButton;
+  }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    const bool inside = rect().contains(event->position().toPoint());
+    if (std::exchange(pressed_, false) && inside) clicked();
+  }
+
+ private:
+  bool pressed_ = false;
+};
+
+Frame::Frame(Container& parent, const char* name, const char* caption, const Rect& place,
+             Handler click)
+    : Control(parent, name, new FrameWidget(shown(caption), parent.host()), place) {
+  as<FrameWidget>()->clicked = [this, click = std::move(click)] { click(form_); };
+}
 
 QWidget* Frame::host() {
-  return as<QGroupBox>();
+  return as<FrameWidget>();
 }
 
 CommandButton::CommandButton(Container& parent, const char* name, const char* caption,

@@ -10,27 +10,38 @@ namespace forms {
 /// How a label's text is laid out.
 enum class LabelStyle {
   Fixed,     ///< keeps its size; text wraps and is cut
-  AutoSize,  ///< as large as its text
+  AutoSize,  ///< as large as its text; the edge that the text is aligned to stays
   Bordered,  ///< fixed, with a border, for a path: wraps anywhere
-  Heading,   ///< fixed, 12 point and bold
   Patch,     ///< fixed, with a border, for a colour
 };
 
-/// Plain text that the user can't change; `&` and `<` in it stand for themselves.
+enum class Alignment { Left, Centre, Right };
+
+/// What a label's text looks like.
+struct Lettering {
+  double Points = 8.25;
+  bool Bold = false;
+  forms::Alignment Alignment = forms::Alignment::Left;
+};
+
+/// Plain text that the user can't change; `&` and `<` in it stand for themselves. Text that has
+/// been cut, and a path, can be read in a tool tip.
 class Label : public Control {
  public:
   Label(Container& parent, const char* name, const char* caption, const Rect& place,
-        LabelStyle style = LabelStyle::Fixed);
+        LabelStyle style = LabelStyle::Fixed, const Lettering& lettering = {});
 
   std::string Caption() const;
   void setCaption(const std::string& caption);
   void setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue);
 };
 
-/// A border around controls that belong together. Their places are relative to it.
+/// A border around controls that belong together. Their places are relative to it. Click comes for
+/// the frame itself, not for what stands in it.
 class Frame : public Control, public Container {
  public:
-  Frame(Container& parent, const char* name, const char* caption, const Rect& place);
+  Frame(Container& parent, const char* name, const char* caption, const Rect& place,
+        Handler click = {});
 
   QWidget* host() override;
   Form& form() override { return form_; }

@@ -1,5 +1,8 @@
 #include "platform/environment.h"
 
+#include <QFile>
+#include <QProcess>
+
 #include <cstdlib>
 #include <filesystem>
 #include <sys/stat.h>
@@ -52,6 +55,11 @@ std::string tempDirectory() {
     if (!given.empty() && isPrivate(nativePath(given))) return drivePath(given);
   }
   return ownDirectory();
+}
+
+bool openWithViewer(const std::string& path) {
+  return QProcess::startDetached(QStringLiteral("xdg-open"),
+                                 {QFile::decodeName(nativePath(path).c_str())});
 }
 
 }  // namespace forms

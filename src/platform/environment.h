@@ -8,4 +8,8 @@ namespace forms {
 /// `TEMP` or `TMPDIR` if only this user can write there, else a directory of the user's own.
 std::string tempDirectory();
 
+/// Starts the desktop's own viewer on a file, whether or not the file exists, and doesn't wait for
+/// it. False where the viewer can't be started.
+bool openWithViewer(const std::string& path);
+
 }  // namespace forms

@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
+#include <QIcon>
 #include <QScreen>
 #include <QWindow>
 
@@ -24,10 +26,20 @@ Qt::WindowFlags windowFlags(const FormLook& look) {
   const Qt::WindowFlags kind = isToolWindow(look) ? Qt::Tool
                                : look.MinButton   ? Qt::Window
                                                   : Qt::Dialog;
-  Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint;
+  // Without a text and a button there is no title bar.
+  if (*look.Caption || look.ControlBox) flags |= Qt::WindowTitleHint;
   if (look.ControlBox) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (look.MinButton) flags |= Qt::WindowMinimizeButtonHint;
   return flags;
+}
+
+/// In every size in which it is built into the program.
+QIcon programIcon() {
+  QIcon icon;
+  const QDir pictures(QStringLiteral(":/icon"));
+  for (const QString& file : pictures.entryList()) icon.addFile(pictures.filePath(file));
+  return icon;
 }
 
 /// What a window's frame counts for in its height and width, in twips.
@@ -52,6 +64,7 @@ Form::Form(const FormLook& look)
                        QSize(pixels(look.Client.Width), pixels(look.Client.Height)),
                        look.BorderStyle != Border::SizableToolWindow)) {
   shell_->setObjectName(look.Name);
+  if (look.Icon) shell_->setWindowIcon(programIcon());
   // A tool window comes up beside the window that is in use and leaves it in use.
   shell_->setAttribute(Qt::WA_ShowWithoutActivating, isToolWindow(look));
   setCaption(look.Caption);
@@ -143,11 +156,13 @@ void Form::Show(Mode mode, Form& owner) {
   if (shell_->loop) loop.exec();
 }
 
-void Form::place(const Form* owner) {
+void Form::place(Form* owner) {
   if (!placed_) shell_->fitToClient();
-  if (owner) {
+  // A dialog stays above the window that it belongs to, and out of the task bar.
+  Form& below = owner ? *owner : Forms[0];
+  if (!isToolWindow(look_) && &below != this && below.Visible()) {
     shell_->winId();
-    shell_->windowHandle()->setTransientParent(owner->shell_->windowHandle());
+    shell_->windowHandle()->setTransientParent(below.shell_->windowHandle());
   }
   const QSize size = shell_->size();
   if (look_.Position == StartUpPosition::CentreOwner && owner) {

@@ -31,6 +31,8 @@ struct FormLook {
   StartUpPosition Position = StartUpPosition::System;
   bool ControlBox = true;
   bool MinButton = false;
+  /// Carries the program's icon.
+  bool Icon = false;
   /// Left and top of the client area on the screen, for `StartUpPosition::Manual`.
   Rect At = {};
 };
@@ -108,7 +110,7 @@ class Form : public Container {
   friend class FormCollection;
   friend class ScreenInfo;
 
-  void place(const Form* owner);
+  void place(Form* owner);
   void placeBesideMain();
   void present();
   void leave();

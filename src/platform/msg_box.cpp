@@ -53,7 +53,9 @@ QMessageBox::Icon iconOf(Icon icon) {
 /// A long path may break behind each of its separators, since a box breaks lines between words
 /// only.
 QString breakable(const std::string& text) {
-  return shown(text).replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
+  return shown(text)
+      .replace(QLatin1String("\r\n"), QLatin1String("\n"))
+      .replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ constexpr MenuRow kMenus[] = {
     {"&File", "mnuExit", "&Exit", "", true},
     {"&Edit", "mnuPalette", "Change &Palette...", "Ctrl+P", true},
     {"&Edit", "mnuInfo", "View &File Info...", "Ctrl+F", false},
-    {"&Edit", "mnuOptions", "&Options...", "Ctrl+T", false},
+    {"&Edit", "mnuOptions", "&Options...", "Ctrl+T", true},
     {"&Help", "mnuAbout", "&About...", "", true},
 };
 

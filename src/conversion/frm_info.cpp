@@ -1,0 +1,38 @@
+#include "conversion/frm_info.h"
+
+#include <cstdint>
+#include <string>
+
+#include "picture/program_state.h"
+
+namespace mill {
+
+namespace {
+
+/// A number as text takes one place for its sign, which is blank where there is none.
+std::string withSign(std::int32_t number) {
+  const std::string digits = std::to_string(number);
+  return number < 0 ? digits : ' ' + digits;
+}
+
+}  // namespace
+
+InfoForm::InfoForm()
+    : Form({.Name = "frmInfo",
+            .Caption = "Picture Information",
+            .BorderStyle = forms::Border::FixedDialog,
+            .Client = {3150, 2655},
+            .Position = forms::StartUpPosition::CentreOwner,
+            .ControlBox = false}) {}
+
+void InfoForm::Form_Load() {
+  const PictureRecord& picture = state.PictureRecord;
+  lblName.setCaption(state.PictureFileName);
+  lblSize.setCaption(std::to_string(picture.bfSize));
+  lblDimensions.setCaption(withSign(picture.biWidth) + " x" + withSign(picture.biHeight) +
+                           " pixels");
+  lblFormat.setCaption(state.IsStandardBitmap ? "Windows Bitmap" : "Kestrel Bitmap");
+  lblIndex.setCaption(state.IsStandardBitmap ? "N/A" : std::to_string(picture.PaletteIndex));
+}
+
+}  // namespace mill

@@ -1,0 +1,32 @@
+#include "dialogs/frm_about.h"
+
+#include "dialogs/version_text.h"
+#include "picture/warn.h"
+#include "platform/application.h"
+#include "platform/environment.h"
+#include "platform/msg_box.h"
+#include "platform/paths.h"
+
+namespace mill {
+
+AboutForm::AboutForm()
+    : Form({.Name = "frmAbout",
+            .Caption = "About Raster Mill",
+            .BorderStyle = forms::Border::FixedDialog,
+            .Client = {6735, 3855},
+            .Position = forms::StartUpPosition::CentreOwner,
+            .Icon = true}) {}
+
+void AboutForm::Form_Load() {
+  lblVersion.setCaption(versionText());
+}
+
+void AboutForm::cmdReadme_Click() {
+  const std::string readMe = forms::join(forms::App.Path(), "readme.txt");
+  if (forms::openWithViewer(readMe)) return;
+  forms::MsgBox({.text = "The read-me file can't be opened.",
+                 .title = kWarning,
+                 .icon = forms::Icon::Critical});
+}
+
+}  // namespace mill
