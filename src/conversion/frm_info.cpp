@@ -31,8 +31,8 @@ void InfoForm::Form_Load() {
   lblSize.setCaption(std::to_string(picture.bfSize));
   lblDimensions.setCaption(withSign(picture.biWidth) + " x" + withSign(picture.biHeight) +
                            " pixels");
-  lblFormat.setCaption(state.IsStandardBitmap ? "Windows Bitmap" : "Kestrel Bitmap");
-  lblIndex.setCaption(state.IsStandardBitmap ? "N/A" : std::to_string(picture.PaletteIndex));
+  lblFormat.setCaption(state.RecordIsStandard ? "Windows Bitmap" : "Kestrel Bitmap");
+  lblIndex.setCaption(state.RecordIsStandard ? "N/A" : std::to_string(picture.PaletteIndex));
 }
 
 }  // namespace mill

@@ -47,24 +47,6 @@ class ColourForm final : public forms::Form {
 
   forms::SwatchGrid palette1{*this, "palette1", 120, 120, 240, &ColourForm::showColour};
 
-  forms::Label lblRed{*this, "lblRed", "Red:", {120, 4125, 555, 195}};
-  forms::TextBox txtRed{*this, "txtRed", {720, 4080, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updRed{*this, "updRed", {1335, 4080, 240, 285}, txtRed, 0, 255};
-  forms::Label lblGreen{*this, "lblGreen", "Green:", {120, 4500, 555, 195}};
-  forms::TextBox txtGreen{*this, "txtGreen", {720, 4455, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updGreen{*this, "updGreen", {1335, 4455, 240, 285}, txtGreen, 0, 255};
-  forms::Label lblBlue{*this, "lblBlue", "Blue:", {120, 4875, 555, 195}};
-  forms::TextBox txtBlue{*this, "txtBlue", {720, 4830, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updBlue{*this, "updBlue", {1335, 4830, 240, 285}, txtBlue, 0, 255};
-  forms::Label lblIndex{*this, "lblIndex", "Index:", {120, 5250, 555, 195}};
-  forms::TextBox txtIndex{*this, "txtIndex", {720, 5205, 615, 285}, &ColourForm::txtIndex_Change};
-  forms::UpDown updIndex{*this, "updIndex", {1335, 5205, 240, 285}, txtIndex, 0, 255};
-
-  forms::Frame Frame1{*this, "Frame1", "Current", {1800, 4080, 1215, 1410}};
-  forms::Label lblCurrent{Frame1, "lblCurrent", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
-  forms::Frame Frame2{*this, "Frame2", "Orginal", {3120, 4080, 1215, 1410}};
-  forms::Label lblOrginal{Frame2, "lblOrginal", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
-
   forms::CommandButton cmdOK{
       *this, "cmdOK", "OK", {4035, 120, 1320, 375}, &ColourForm::cmdOK_Click, forms::Default};
   forms::CommandButton cmdCancel{
@@ -88,6 +70,24 @@ class ColourForm final : public forms::Form {
       *this, "cmdInvert", "Invert Colour", {4035, 3000, 1320, 375}, &ColourForm::cmdInvert_Click};
   forms::CommandButton cmdNew{
       *this, "cmdNew", "Set New Colour", {4035, 3480, 1320, 375}, &ColourForm::cmdNew_Click};
+
+  forms::Label lblRed{*this, "lblRed", "Red:", {120, 4125, 555, 195}};
+  forms::TextBox txtRed{*this, "txtRed", {720, 4080, 615, 285}, &ColourForm::newColour};
+  forms::UpDown updRed{*this, "updRed", {1335, 4080, 240, 285}, txtRed, 0, 255};
+  forms::Label lblGreen{*this, "lblGreen", "Green:", {120, 4500, 555, 195}};
+  forms::TextBox txtGreen{*this, "txtGreen", {720, 4455, 615, 285}, &ColourForm::newColour};
+  forms::UpDown updGreen{*this, "updGreen", {1335, 4455, 240, 285}, txtGreen, 0, 255};
+  forms::Label lblBlue{*this, "lblBlue", "Blue:", {120, 4875, 555, 195}};
+  forms::TextBox txtBlue{*this, "txtBlue", {720, 4830, 615, 285}, &ColourForm::newColour};
+  forms::UpDown updBlue{*this, "updBlue", {1335, 4830, 240, 285}, txtBlue, 0, 255};
+  forms::Label lblIndex{*this, "lblIndex", "Index:", {120, 5250, 555, 195}};
+  forms::TextBox txtIndex{*this, "txtIndex", {720, 5205, 615, 285}, &ColourForm::txtIndex_Change};
+  forms::UpDown updIndex{*this, "updIndex", {1335, 5205, 240, 285}, txtIndex, 0, 255};
+
+  forms::Frame Frame1{*this, "Frame1", "Current", {1800, 4080, 1215, 1410}};
+  forms::Label lblCurrent{Frame1, "lblCurrent", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
+  forms::Frame Frame2{*this, "Frame2", "Orginal", {3120, 4080, 1215, 1410}};
+  forms::Label lblOrginal{Frame2, "lblOrginal", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
 };
 
 inline forms::Global<ColourForm> frmColour;

@@ -87,9 +87,9 @@ class PalExtractForm final : public forms::Form {
       *this, "cmdDone", "Done", {3720, 1320, 1095, 330}, &PalExtractForm::cmdDone_Click};
 
   forms::Label Label1{*this, "Label1", "Number of palettes:", {120, 1785, 1590, 195}};
-  forms::TextBox txtNumber{*this, "txtNumber", {1740, 1740, 1035, 285}, {}, forms::ReadOnly};
+  forms::TextBox txtNumber{*this, "txtNumber", {1740, 1740, 1110, 285}, {}, forms::ReadOnly};
   forms::Label Label2{*this, "Label2", "Current palette index:", {120, 2160, 1590, 195}};
-  forms::TextBox txtIndex{*this, "txtIndex", {1740, 2115, 1035, 285}, {}, forms::ReadOnly};
+  forms::TextBox txtIndex{*this, "txtIndex", {1740, 2115, 1110, 285}, {}, forms::ReadOnly};
   forms::CheckBox chkAdd{
       *this, "chkAdd", "Add KSL Name", {2880, 2130, 1935, 255}, &PalExtractForm::chkAdd_Click};
 

@@ -86,7 +86,7 @@ class LabelWidget final : public QLabel {
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    if (backColour_.isValid()) painter.fillRect(rect(), backColour_);
+    if (backColour_.isValid()) painter.fillRect(contentsRect(), backColour_);
     drawFrame(&painter);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(room(), layout(), text());

@@ -27,7 +27,8 @@ int NameModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant NameModel::data(const QModelIndex& index, int role) const {
-  if (role != Qt::DisplayRole) return {};
+  // Asked without an index for what to copy from an empty list.
+  if (role != Qt::DisplayRole || !index.isValid()) return {};
   return shown(names_[static_cast<std::size_t>(index.row())]);
 }
 

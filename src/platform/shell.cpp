@@ -1,5 +1,6 @@
 #include "platform/shell.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -32,6 +33,10 @@ void Shell::fitToClient() {
 }
 
 void Shell::focusFirst() {
+  // Opened by the keyboard, it shows where the focus is.
+  const QWidget* before = QApplication::activeWindow();
+  setAttribute(Qt::WA_KeyboardFocusChange,
+               before && before->testAttribute(Qt::WA_KeyboardFocusChange));
   if (QWidget* last = focusWidget()) last->clearFocus();
   focusNextPrevChild(true);
   // A window of buttons starts at the one that Enter presses.
@@ -93,6 +98,10 @@ bool FormInput::takeKey(Shell& shell, const QKeyEvent& key) {
   const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
   if (!enter && key.key() != Qt::Key_Escape) return false;
   QPushButton* button = enter ? shell.defaultButton : shell.cancelButton;
+  // Enter on "Cancel" mustn't mean OK. Where both keys mean the same button, that is what they
+  // mean.
+  auto* focused = qobject_cast<QPushButton*>(shell.focusWidget());
+  if (enter && button != shell.cancelButton && focused) button = focused;
   if (button && !key.isAutoRepeat()) button->click();
   return true;
 }

@@ -26,7 +26,7 @@ TEST_F(Info, ShowsTheStateAsItIs) {
       // What the header of a standard bitmap says, even where that can't be.
       {true, -3, 16, -16, 25, "Windows Bitmap", "-3", " 16 x-16 pixels", "N/A"}};
   for (const auto& row : rows) {
-    state.IsStandardBitmap = row.standard;
+    state.RecordIsStandard = row.standard;
     state.PictureRecord.bfSize = row.size;
     state.PictureRecord.biWidth = row.width;
     state.PictureRecord.biHeight = row.height;

@@ -119,6 +119,17 @@ window_is_active() {
   window=$(xdotool getactivewindow 2>/dev/null) && [[ $(xdotool getwindowname "$window" 2>/dev/null) == "$1" ]]
 }
 
+# rest_in WINDOW waits until the focus has come to rest there: while windows come and go, the window
+# manager may hand it round and take a click or a key for itself.
+rest_in() {
+  local still=0
+  wait_until "a window keeping the focus" keeps_focus "$1"
+}
+keeps_focus() {
+  [[ $(xdotool getwindowfocus 2>/dev/null) == "$1" ]] || still=0
+  ((++still > 5))
+}
+
 # find_window NAME sets $found to the window of that name on the screen. A name may hold brackets.
 find_window() {
   found=$(xdotool search --onlyvisible --name "^${1//[()]/.}\$" 2>/dev/null | head -n 1)
@@ -143,6 +154,13 @@ click_at() {
   [[ ! ${3:-} ]] || held=(keydown "$3") released=(keyup "$3")
   xdotool mousemove --window "$window" \
     $(($1 * scale / 15)) $(($2 * scale / 15 + menu_height)) "${held[@]}" click 1 "${released[@]}"
+}
+
+# type_at X Y TEXT replaces the text of the box at that place.
+type_at() {
+  click_at "$1" "$2"
+  press ctrl+a
+  xdotool type --delay 5 "$3"
 }
 
 # press KEY... as xdotool names them: alt+f, Escape.
@@ -189,7 +207,8 @@ screenshot() {
 # True when two pictures in a row are alike and hold more than bare background.
 take_painted() {
   local last=$painted colours
-  import -silent -frame -window "$taken" "$file"
+  # Asked for a window that is gone, import waits for a click.
+  timeout 10 import -silent -frame -window "$taken" "$file" || fail "no window for $file"
   read -r colours painted < <(identify -format '%k %#\n' "$file")
   ((colours > 8)) && [[ $painted == "$last" ]]
 }

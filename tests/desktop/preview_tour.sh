@@ -9,16 +9,6 @@ source "$(dirname "${BASH_SOURCE[0]}")/windows.sh"
 
 at_start="Palette (44.pal)"
 
-# start [SCALE] starts the program. Its three windows come up, and the main one is in use.
-start() {
-  start_program "$bin/raster-mill" "$@"
-  wait_until "the preview window" find_window Preview
-  preview=$found
-  wait_until "the swatch window" find_window "$at_start"
-  swatches=$found
-  wait_for_window "${main[@]}"
-}
-
 # The windows come up side by side: none lies on another.
 expect_apart() {
   local first second
@@ -38,26 +28,11 @@ are_apart() {
   ((X >= right || Y >= bottom || X + WIDTH <= left || Y + HEIGHT <= top))
 }
 
-# Where none hides another, even with a large picture.
-move_apart() {
-  move_window "$preview" 20 40
-  move_window "$swatches" 2400 1100
-  move_window "$window" 2000 100
-}
-
 # By the keyboard, since a large preview may lie on the button.
 leave() {
   wait_for_window "${main[@]}"
   press alt+F4
   wait_for_end
-}
-
-# open_picture NAME shows it, by the button of the main window.
-open_picture() {
-  wait_for_window "${main[@]}"
-  rm -f "$temp/temp.bmp"
-  click_file "$1"
-  click_at "${open_button[@]}"
 }
 
 has_size() { [[ $(client_size "$1") == "$2 $3" ]]; }
@@ -146,16 +121,16 @@ choose_palette() {
   cmp "$temp/temp.bmp" "$home/second.bmp" || fail "the picture has other colours than those chosen"
 }
 
-# Waits until the focus has come to rest in the main window: while windows come and go, the window
-# manager may hand it round and take a click for itself.
 wait_for_rest() {
-  local still=0
   wait_for_window "${main[@]}"
-  wait_until "the main window keeping the focus" main_keeps_focus
+  rest_in "$window"
 }
-main_keeps_focus() {
-  [[ $(xdotool getwindowfocus 2>/dev/null) == "$window" ]] || still=0
-  ((++still > 5))
+
+# close_tool WINDOW closes it by the keyboard.
+close_tool() {
+  xdotool windowactivate --sync "$1"
+  rest_in "$1"
+  press alt+F4
 }
 
 # expect_tools NAME... waits until these tool windows are on the screen, and no others.
@@ -188,7 +163,7 @@ come_and_go() {
   expect_tools "${both[@]}"
   minimise_and_restore "${both[@]}"
   window_is_near "$preview" 20 40 || fail "the preview window came back at another place"
-  window_is_near "$swatches" 2400 1100 || fail "the swatch window came back at another place"
+  window_is_near "$swatches" 2000 1100 || fail "the swatch window came back at another place"
 
   tick "${swatches_box[@]}" Preview
   minimise_and_restore Preview
@@ -198,9 +173,9 @@ come_and_go() {
   tick "${preview_box[@]}" "${both[@]}"
 
   # Its box stays ticked when a window is closed, so that the first click unticks it.
-  xdotool windowactivate --sync "$preview" key alt+F4
+  close_tool "$preview"
   expect_tools "$1"
-  xdotool windowactivate --sync "$swatches" key alt+F4
+  close_tool "$swatches"
   expect_tools
   xdotool windowactivate --sync "$window"
   wait_for_rest
@@ -227,10 +202,10 @@ prepare "$@"
 start_screen 3200 1600 "$made"
 seed "$pictures"
 
-start
+start "$at_start"
 expect_apart
 screenshot main
-move_apart
+move_apart 2000
 fit Summit.bmp Nebula.bmp stonewal.bmp dot.bmp crest.bmp Plasma.bmp Seahorse.bmp
 screenshot preview "$preview"
 screenshot swatches "$swatches"
@@ -243,15 +218,15 @@ expect_setting "ShowPal=True"
 expect_setting "ShowPrev=True"
 
 # Once more at twice the size.
-start 2
-move_apart
+start "$at_start" 2
+move_apart 2000
 fit Summit.bmp dot.bmp Plasma.bmp
 leave
 stop
 
 start_screen 1000 700 "$made"
 seed "$pictures"
-start
+start "$at_start"
 show_larger_than_screen 1000 700
 leave
 echo "desktop: every preview went as it should"
