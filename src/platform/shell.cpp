@@ -91,16 +91,16 @@ bool FormInput::eventFilter(QObject* receiver, QEvent* event) {
   if (!shell) return false;
   if (!shell->isVisible()) return true;
   return event->type() == QEvent::KeyPress && !qobject_cast<QMenuBar*>(widget) &&
-         takeKey(*shell, *static_cast<QKeyEvent*>(event));
+         takeKey(*shell, *widget, *static_cast<QKeyEvent*>(event));
 }
 
-bool FormInput::takeKey(Shell& shell, const QKeyEvent& key) {
+bool FormInput::takeKey(Shell& shell, QWidget& receiver, const QKeyEvent& key) {
   const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
   if (!enter && key.key() != Qt::Key_Escape) return false;
   QPushButton* button = enter ? shell.defaultButton : shell.cancelButton;
   // Enter on "Cancel" mustn't mean OK. Where both keys mean the same button, that is what they
   // mean.
-  auto* focused = qobject_cast<QPushButton*>(shell.focusWidget());
+  auto* focused = qobject_cast<QPushButton*>(&receiver);
   if (enter && button != shell.cancelButton && focused) button = focused;
   if (button && !key.isAutoRepeat()) button->click();
   return true;

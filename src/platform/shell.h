@@ -51,7 +51,7 @@ class FormInput final : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  static bool takeKey(Shell& shell, const QKeyEvent& key);
+  static bool takeKey(Shell& shell, QWidget& receiver, const QKeyEvent& key);
 };
 
 }  // namespace forms

@@ -6,25 +6,27 @@ namespace model {
 
 namespace {
 
-void put(Bytes& file, std::int64_t number, int size) {
-  for (int i = 0; i < size; ++i) file.push_back(static_cast<std::uint8_t>(number >> (8 * i)));
+Bytes number(std::int64_t value, int size) {
+  Bytes bytes;
+  for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+  return bytes;
 }
 
-void put(Bytes& file, const std::string& text) {
-  file.insert(file.end(), text.begin(), text.end());
+Bytes text(const std::string& text) {
+  return {text.begin(), text.end()};
 }
 
-void put(Bytes& file, const Bytes& bytes) {
-  file.insert(file.end(), bytes.begin(), bytes.end());
+void put(Bytes& file, std::initializer_list<Bytes> parts) {
+  for (const Bytes& part : parts) file.insert(file.end(), part.begin(), part.end());
 }
 
-void putBlueFirst(Bytes& file, const Colour& c) {
-  put(file, Bytes{c.blue, c.green, c.red, c.extra});
+void putBlueFirst(Bytes& file, const Colours& colours) {
+  for (const Colour& c : colours) put(file, {{c.blue, c.green, c.red, c.extra}});
 }
 
-std::int32_t number(const Bytes& file, std::size_t at) {
-  return static_cast<std::int32_t>(file[at] | file[at + 1] << 8 | file[at + 2] << 16 |
-                                   static_cast<std::uint32_t>(file[at + 3]) << 24);
+int numberAt(const Bytes& file, std::size_t at) {
+  return static_cast<int>(file[at] | file[at + 1] << 8 | file[at + 2] << 16 |
+                          static_cast<unsigned>(file[at + 3]) << 24);
 }
 
 /// size / height - width in whole numbers, halves to the even neighbour.
@@ -46,59 +48,38 @@ Colours someColours(int seed) {
   return colours;
 }
 
-Bytes somePixels(std::size_t count) {
-  Bytes pixels(count);
-  for (std::size_t i = 0; i < count; ++i)
-    pixels[i] = static_cast<std::uint8_t>(i * 7 + i / 251 + 1);
+Bytes somePixels(int count) {
+  Bytes pixels;
+  for (int i = 0; i < count; ++i) {
+    pixels.push_back(static_cast<std::uint8_t>(i * std::int64_t{7} + i / 251 + 1));
+  }
   return pixels;
 }
 
 Bytes kestrelBitmap(const Kestrel& picture) {
   Bytes file;
-  put(file, picture.magic);
-  put(file, Bytes(18, 0xA1));
-  put(file, picture.width, 4);
-  put(file, picture.height, 4);
-  put(file, picture.depth, 2);
-  put(file, Bytes(10, 0xA2));
-  put(file, picture.dataSize, 4);
-  put(file, picture.pixels);
-  put(file, Bytes(20, 0xA3));
-  put(file, picture.paletteIndex, 4);
-  put(file, picture.behind);
+  put(file,
+      {text(picture.magic), Bytes(18, 0xA1), number(picture.width, 4), number(picture.height, 4),
+       number(picture.depth, 2), Bytes(10, 0xA2), number(picture.dataSize, 4), picture.pixels,
+       Bytes(20, 0xA3), number(picture.paletteIndex, 4), picture.behind});
   return file;
 }
 
 Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours) {
-  const int width = number(kestrel, 20);
-  const int height = number(kestrel, 24);
-  int size = number(kestrel, 40);
-  int padding = 0;
-  if (height > 0 && width * height != size) padding = roundedDifference(width, height, size);
-  const int dataSize = size;
+  const int width = numberAt(kestrel, 20), height = numberAt(kestrel, 24);
+  const int dataSize = numberAt(kestrel, 40);
+  int size = dataSize, padding = 0;
+  if (height > 0) padding = roundedDifference(width, height, size);
   if (padding > 10) {
     padding = 0;
     size = width * height;
   }
 
   Bytes file;
-  put(file, "BM");
-  put(file, size + 1078, 4);
-  put(file, 0, 2);
-  put(file, 0, 2);
-  put(file, 1078, 4);
-  put(file, 40, 4);
-  put(file, width, 4);
-  put(file, height, 4);
-  put(file, 1, 2);
-  put(file, 8, 2);
-  put(file, 0, 4);
-  put(file, size, 4);
-  put(file, 0, 4);
-  put(file, 0, 4);
-  put(file, 256, 4);
-  put(file, 256, 4);
-  for (const Colour& colour : colours) putBlueFirst(file, colour);
+  put(file, {text("BM"), number(size + 1078, 4), number(0, 4), number(1078, 4)});
+  put(file, {number(40, 4), number(width, 4), number(height, 4), number(1, 2), number(8, 2)});
+  put(file, {number(0, 4), number(size, 4), number(0, 8), number(256, 4), number(256, 4)});
+  putBlueFirst(file, colours);
   for (int y = height - 1; y >= 0; --y) {
     for (int x = 0; x < width + std::max(padding, 0); ++x) {
       const int at = (width + padding) * y + x;
@@ -109,27 +90,20 @@ Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours) {
 }
 
 Bytes paletteFile(const std::string& head, const Colours& colours) {
-  Bytes file;
-  put(file, head);
-  for (const Colour& colour : colours) putBlueFirst(file, colour);
+  Bytes file = text(head);
+  putBlueFirst(file, colours);
   return file;
 }
 
 Bytes paletteList(const std::vector<ListRecord>& records) {
   Bytes file;
-  put(file, "LIST");
-  put(file, static_cast<std::int64_t>(records.size()), 4);
-  put(file, Bytes(44, 0xA4));
-  for (const ListRecord& record : records) {
-    for (const Colour& c : record.colours) {
-      if (c.extra == 255) {
-        put(file, Bytes{c.red, c.green, c.blue, c.extra});
-      } else {
-        putBlueFirst(file, c);
-      }
+  put(file, {text("LIST"), number(static_cast<int>(records.size()), 4), Bytes(44, 0xA4)});
+  for (ListRecord record : records) {
+    for (Colour& colour : record.colours) {
+      if (colour.extra == 255) std::swap(colour.red, colour.blue);
     }
-    put(file, record.index, 4);
-    put(file, Bytes(4, 0xA5));
+    putBlueFirst(file, record.colours);
+    put(file, {number(record.index, 4), Bytes(4, 0xA5)});
   }
   return file;
 }
@@ -140,14 +114,6 @@ std::function<bool(std::span<std::uint8_t>)> reader(const Bytes& bytes, std::siz
     if (at + to.size() > std::min(end, bytes.size())) return false;
     std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(at), to.size(), to.begin());
     at += to.size();
-    return true;
-  };
-}
-
-std::function<bool(std::span<const std::uint8_t>)> writer(Bytes& bytes, std::size_t limit) {
-  return [&bytes, limit](std::span<const std::uint8_t> from) {
-    if (bytes.size() + from.size() > limit) return false;
-    bytes.insert(bytes.end(), from.begin(), from.end());
     return true;
   };
 }

@@ -22,13 +22,13 @@ using Colours = std::array<Colour, 256>;
 /// 256 colours without a pattern in them; another `seed` gives others.
 Colours someColours(int seed);
 /// `count` bytes in which no row is like its neighbour.
-Bytes somePixels(std::size_t count);
+Bytes somePixels(int count);
 
 struct Kestrel {
   std::int32_t width = 0;
   std::int32_t height = 0;
   std::int32_t dataSize = 0;
-  Bytes pixels = somePixels(static_cast<std::size_t>(dataSize));
+  Bytes pixels = somePixels(dataSize);
   std::int32_t paletteIndex = 25;
   std::int16_t depth = 8;
   std::string magic = "KS";
@@ -52,7 +52,5 @@ Bytes paletteList(const std::vector<ListRecord>& records);
 /// A device that reads `bytes` from `at` on and fails once it would pass `end`.
 std::function<bool(std::span<std::uint8_t>)> reader(const Bytes& bytes, std::size_t at,
                                                     std::size_t end);
-/// A device that adds to `bytes` and fails, changing nothing, where that would pass `limit`.
-std::function<bool(std::span<const std::uint8_t>)> writer(Bytes& bytes, std::size_t limit);
 
 }  // namespace model

@@ -11,10 +11,9 @@ int main(int argc, char** argv) {
   std::string home = (std::filesystem::temp_directory_path() / "mill-home-XXXXXX").string();
   if (!::mkdtemp(home.data())) return 1;
   ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  ::setenv("HOME", home.c_str(), 1);
-  ::setenv("XDG_CONFIG_HOME", home.c_str(), 1);
-  ::setenv("XDG_RUNTIME_DIR", home.c_str(), 1);
-  ::setenv("temp", home.c_str(), 1);
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "temp"}) {
+    ::setenv(name, home.c_str(), 1);
+  }
   ::unsetenv("WINEPREFIX");
   int result = 1;
   {

@@ -20,20 +20,9 @@
 
 namespace mill::test {
 
-namespace {
-
-constexpr const char* kApplication = forms::Application::Title;
-
-}  // namespace
-
 TempFolder::TempFolder() {
   std::string pattern = (std::filesystem::temp_directory_path() / "mill-XXXXXX").string();
   root_ = ::mkdtemp(pattern.data());
-}
-
-TempFolder::~TempFolder() {
-  std::error_code error;
-  std::filesystem::remove_all(root_, error);
 }
 
 std::string TempFolder::drive(const std::string& name) const {
@@ -54,17 +43,12 @@ Messages::Messages() {
   forms::answerMessagesWith([this](const forms::Message& message) {
     said.push_back(message);
     if (meanwhile) meanwhile();
-    if (!answers.empty()) {
-      const forms::Answer answer = answers.front();
-      answers.erase(answers.begin());
-      return answer;
-    }
-    return message.buttons == forms::Buttons::YesNo ? forms::Answer::No : forms::Answer::OK;
+    const bool asks = message.buttons == forms::Buttons::YesNo;
+    if (answers.empty()) return asks ? forms::Answer::No : forms::Answer::OK;
+    const forms::Answer answer = answers.front();
+    answers.erase(answers.begin());
+    return answer;
   });
-}
-
-Messages::~Messages() {
-  forms::answerMessagesWith({});
 }
 
 std::vector<std::string> Messages::texts() {
@@ -148,6 +132,11 @@ void settle() {
   }
 }
 
+WindowTest::WindowTest() {
+  reset();
+  ::setenv("temp", folder.path().c_str(), 1);
+}
+
 void WindowTest::reset() {
   while (forms::Forms.Count() > 0) forms::Forms[forms::Forms.Count() - 1].Unload();
   settle();
@@ -155,7 +144,7 @@ void WindowTest::reset() {
 }
 
 MainWindowTest::MainWindowTest() {
-  std::filesystem::remove(forms::nativePath(forms::settingsFile(kApplication)));
+  std::filesystem::remove(forms::nativePath(forms::settingsFile(forms::Application::Title)));
   for (const char* name : {"in", "out", "pal"}) folder.makeFolder(name);
   // A folder without any file would not be taken as the source.
   folder.write("in/readme.txt", {});
@@ -170,7 +159,7 @@ MainWindowTest::MainWindowTest() {
 }
 
 void MainWindowTest::set(const char* key, const std::string& value) {
-  forms::SaveSetting(kApplication, "Settings", key, value);
+  forms::SaveSetting(forms::Application::Title, "Settings", key, value);
 }
 
 void MainWindowTest::start() {

@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -21,13 +20,13 @@
 
 namespace mill::test {
 
-using Bytes = std::vector<std::uint8_t>;
+using model::Bytes;
 
 /// A new folder that goes with the object.
 class TempFolder {
  public:
   TempFolder();
-  ~TempFolder();
+  ~TempFolder() { std::filesystem::remove_all(root_); }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;
 
@@ -53,18 +52,18 @@ Bytes readFile(const std::filesystem::path& path);
 class Messages {
  public:
   Messages();
-  ~Messages();
-
-  std::vector<forms::Message> said;
-  std::vector<forms::Answer> answers;
-  /// Called at each message, before it is answered.
-  std::function<void()> meanwhile;
+  ~Messages() { forms::answerMessagesWith({}); }
 
   /// The texts said since the last call.
   std::vector<std::string> texts();
   /// There were `count` messages, and the last of them was this one. Forgets them all.
   void expectLast(std::size_t count, const std::string& text, const std::string& title,
                   forms::Icon icon);
+
+  std::vector<forms::Message> said;
+  std::vector<forms::Answer> answers;
+  /// Called at each message, before it is answered.
+  std::function<void()> meanwhile;
 };
 
 /// The visible or hidden window of a form, by its name.
@@ -93,11 +92,11 @@ void whenShown(Act act) {
   QTimer::singleShot(0, qApp, act);
 }
 
-/// Lets everything happen that waits in the event queue, deletions included.
-void settle();
-
 /// Presses a button that opens a modal window, and runs `act` in there.
 void pressAndThen(const char* form, const char* button, std::function<void()> act);
+
+/// Lets everything happen that waits in the event queue, deletions included.
+void settle();
 
 /// What a widget shows at this moment.
 QImage painted(QWidget* widget);
@@ -123,10 +122,7 @@ ColourTable tableOf(const model::Colours& colours);
 /// to the test's own folder.
 class WindowTest : public ::testing::Test {
  protected:
-  WindowTest() {
-    reset();
-    ::setenv("temp", folder.path().c_str(), 1);
-  }
+  WindowTest();
   ~WindowTest() override { reset(); }
 
   TempFolder folder;
