@@ -1,0 +1,235 @@
+#include "mainwindow/frm_main.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListView>
+#include <QTest>
+
+#include "picture/program_state.h"
+#include "platform/application.h"
+#include "support/windows.h"
+
+namespace mill {
+namespace {
+
+using forms::Answer;
+using test::Bytes;
+using test::control;
+using test::press;
+using test::pressAndThen;
+using Names = std::vector<std::string>;
+
+class MainWindow : public test::MainWindowTest {
+ protected:
+  MainWindow() {
+    for (const char* name : {"a.bmp", "B.BMP", "c.bmp"}) addPicture(name);
+    set("ShowPrev", "True");
+  }
+
+  static QComboBox* box(const char* name) { return control<QComboBox>("frmMain", name); }
+  static std::string text(const char* name) { return box(name)->currentText().toStdString(); }
+  static void type(const char* name, const std::string& text) {
+    box(name)->lineEdit()->selectAll();
+    QTest::keyClicks(box(name)->lineEdit(), QString::fromStdString(text));
+  }
+  static QListView* list() { return control<QListView>("frmMain", "filSource"); }
+  /// Clicks a name twice. True where that asks whether to convert it, which is answered by the key.
+  bool doubleClick(const std::string& name, Qt::Key answer) {
+    bool asked = false;
+    test::whenShown([&] {
+      asked = test::window("frmConvert")->isVisible();
+      if (asked) QTest::keyClick(control("frmConvert", "cmdYes"), answer);
+    });
+    select({name});
+    const QPoint at = list()->visualRect(list()->currentIndex()).center();
+    QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseRelease(list()->viewport(), Qt::LeftButton, {}, at);
+    test::settle();
+    return asked;
+  }
+
+  /// Which of the four commands can be used; button and menu item of each must agree.
+  static Names commands() {
+    Names found;
+    for (const std::string name : {"Open", "Convert", "Batch", "Info"}) {
+      const bool enabled = control("frmMain", ("cmd" + name).c_str())->isEnabled();
+      EXPECT_EQ(test::menuItem("frmMain", ("mnu" + name).c_str())->isEnabled(), enabled) << name;
+      if (enabled) found.push_back(name);
+    }
+    return found;
+  }
+  Bytes temporary() const { return test::readFile(folder.path("temp.bmp")); }
+};
+
+TEST_F(MainWindow, TheSelectionDecidesWhichCommandsCanBeUsed) {
+  struct Case {
+    Names selected;
+    const char* open;
+    bool standard, showPrev;
+    Names commands;
+  };
+  const Case cases[] = {{{"a.bmp"}, "", false, true, {"Open", "Convert"}},
+                        {{"a.bmp"}, "", false, false, {"Convert"}},
+                        {{"a.bmp"}, "A.bmp", false, true, {"Open", "Convert"}},
+                        {{"a.bmp"}, "a.bmp", false, true, {"Convert", "Info"}},
+                        {{"a.bmp"}, "a.bmp", true, true, {"Info"}},
+                        {{"a.bmp", "c.bmp"}, "a.bmp", false, true, {"Batch"}},
+                        {{"a.bmp", "a.bmp"}, "a.bmp", false, true, {}}};
+  start();
+  for (const Case& c : cases) {
+    state.PictureFileName = c.open;
+    state.IsStandardBitmap = c.standard;
+    state.ShowPrev = c.showPrev;
+    select(c.selected);
+    EXPECT_EQ(commands(), c.commands);
+  }
+  // Another folder changes nothing before the next click.
+  select({"c.bmp", "a.bmp", "B.BMP"});
+  type("lstSource", folder.drive("out"));
+  EXPECT_EQ(list()->model()->rowCount(), 0);
+  EXPECT_EQ(state.SelectedFiles, (Names{"a.bmp", "B.BMP", "c.bmp"}));
+  EXPECT_EQ(commands(), Names{"Batch"});
+}
+
+TEST_F(MainWindow, ThePreviewCommandOpensAndWritesThePicture) {
+  const Bytes a = model::convertedBitmap(addPicture("a.bmp", 1), colours);
+  const Bytes standard = model::convertedBitmap(addPicture("b.bmp", 2), model::someColours(8));
+  folder.write("in/b.bmp", standard);
+  folder.write("in/junk.bmp", {'j', 'u', 'n', 'k'});
+  start();
+  press("frmMain", "cmdOpen");  // with nothing selected, nothing open
+  EXPECT_EQ(messages.texts(), Names{"The file you seleted to be opened does not exist."});
+  EXPECT_EQ(commands(), Names{"Info"});
+  EXPECT_FALSE(state.PreviewDC);
+
+  select({"a.bmp"});
+  test::menuItem("frmMain", "mnuOpen")->trigger();
+  EXPECT_EQ(commands(), (Names{"Convert", "Info"}));
+  EXPECT_EQ(temporary(), a);
+  // A refused file leaves the picture before it in the preview.
+  folder.write("temp.bmp", {});
+  preview("junk.bmp");
+  EXPECT_EQ(messages.texts(), Names{"This file is not a valid bitmap file."});
+  EXPECT_EQ(state.PictureFileName, "a.bmp");
+  EXPECT_EQ(temporary(), a);
+
+  messages.answers = {Answer::Yes};
+  preview("b.bmp");
+  EXPECT_EQ(commands(), Names{"Info"});
+  EXPECT_EQ(temporary(), standard);
+  // A refusal makes it count as no standard bitmap, but it is shown and written as it was.
+  preview("junk.bmp");
+  EXPECT_EQ(temporary(), standard);
+  select({"b.bmp"});
+  EXPECT_EQ(commands(), (Names{"Convert", "Info"}));
+}
+
+TEST_F(MainWindow, WithoutThePreviewWindowTheCommandDoesNothing) {
+  start();
+  select({"a.bmp"});
+  control<QCheckBox>("frmMain", "chkPrev")->click();
+  EXPECT_FALSE(control("frmMain", "cmdOpen")->isEnabled());
+  EXPECT_TRUE(test::menuItem("frmMain", "mnuOpen")->isEnabled());  // keeps its state
+  state.AutoPrev = true;
+  test::menuItem("frmMain", "mnuOpen")->trigger();
+  EXPECT_FALSE(doubleClick("a.bmp", Qt::Key_Escape));
+  EXPECT_EQ(state.PictureFileName, "");
+  EXPECT_FALSE(folder.exists("temp.bmp"));
+  EXPECT_EQ(frmMain->MousePointer(), forms::vbDefault);
+}
+
+TEST_F(MainWindow, ADoubleClickPreviewsThenOffersToConvert) {
+  const Bytes a = model::convertedBitmap(addPicture("a.bmp", 1), colours);
+  start();
+  EXPECT_FALSE(doubleClick("a.bmp", Qt::Key_Escape));
+  EXPECT_EQ(state.PictureFileName, "a.bmp");
+  state.IsStandardBitmap = true;
+  EXPECT_FALSE(doubleClick("a.bmp", Qt::Key_Escape));
+  state.IsStandardBitmap = false;
+  EXPECT_TRUE(doubleClick("a.bmp", Qt::Key_Escape));
+  EXPECT_FALSE(folder.exists("out/a.bmp"));
+  EXPECT_TRUE(doubleClick("a.bmp", Qt::Key_Space));
+  EXPECT_EQ(test::readFile(folder.path("out/a.bmp")), a);
+  EXPECT_EQ(state.PictureFileName, "a.bmp");  // opened again
+  select({"c.bmp"});
+  EXPECT_EQ(state.PictureFileName, "a.bmp");
+  state.AutoPrev = true;
+  select({"c.bmp"});
+  EXPECT_EQ(state.PictureFileName, "c.bmp");
+  EXPECT_EQ(commands(), (Names{"Convert", "Info"}));
+}
+
+TEST_F(MainWindow, EachCheckBoxSetsItsFlagAndLeavesTheMainWindowActive) {
+  const std::pair<const char*, bool&> cases[] = {
+      {"chkPrev", state.ShowPrev}, {"chkAutoPrev", state.AutoPrev}, {"chkResize", state.ResizeFit},
+      {"chkPal", state.ShowPal},   {"chkAutoPal", state.AutoPal},   {"chkSearch", state.Search}};
+  start();
+  for (const auto& [name, flag] : cases) {
+    const bool before = flag;
+    for (const bool expected : {!before, before}) {
+      control<QCheckBox>("frmMain", name)->toggle();
+      EXPECT_EQ(flag, expected) << name;
+      EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMain);
+    }
+  }
+}
+
+TEST_F(MainWindow, WarnsWheneverTheDirectoriesBecomeOne) {
+  const auto expectWarning = [&] {
+    messages.expectLast(1, "The source and destination directories must be different.", "Warning!",
+                        forms::Icon::Information);
+  };
+  set("Dest", folder.drive("in"));
+  start();
+  expectWarning();
+  type("lstDest", folder.drive("IN"));  // case counts
+  EXPECT_TRUE(messages.texts().empty());
+  type("lstSource", folder.drive("IN"));
+  expectWarning();
+  EXPECT_EQ(text("lstSource"), folder.drive("IN"));
+  // Picking an entry is a change too.
+  for (const char* name : {"lstSource", "lstDest"}) {
+    box(name)->showPopup();
+    QTest::keyClick(box(name)->view(), Qt::Key_Return);
+  }
+  expectWarning();
+  EXPECT_EQ(list()->model()->rowCount(), 3);
+}
+
+TEST_F(MainWindow, BrowseButtonsFillBoxListAndState) {
+  const std::tuple<const char*, const char*, std::string&> cases[] = {
+      {"cmdSourceBrowse", "lstSource", state.SourceDir},
+      {"cmdDestBrowse", "lstDest", state.DestDir},
+      {"cmdBrowsePal", "lstPalette", state.PalDir}};
+  start();
+  for (const auto& [button, name, chosen] : cases) {
+    const std::string first = text(name), wanted = folder.drive(name);
+    folder.makeFolder(name);
+    type(name, wanted);
+    for (const char* end : {"CancelButton", "OKButton", "OKButton"}) {
+      pressAndThen("frmMain", button, [&] { press("frmBrowse", end); });
+      EXPECT_EQ(chosen, *end == 'C' ? first : wanted);
+    }
+    EXPECT_EQ(text(name), wanted);
+    EXPECT_EQ(box(name)->count(), 2);
+  }
+}
+
+TEST_F(MainWindow, BrowsingForTheDefaultPaletteLoadsNone) {
+  folder.write("pal/25.pal", {});
+  start();
+  for (const bool chosen : {false, true}) {
+    pressAndThen("frmMain", "cmdBrowseDefault", [&] {
+      if (chosen) QTest::keyClick(control("frmFileBrowse", "File1"), Qt::Key_Home);
+      press("frmFileBrowse", "cmdOK");
+    });
+    EXPECT_EQ(text("lstDefault"), folder.drive(chosen ? "pal/25.pal" : "pal/base.pal"));
+    EXPECT_EQ(state.DefaultPalette, text("lstDefault"));
+    EXPECT_EQ(state.CurrentPaletteFile, folder.drive("pal/base.pal"));
+  }
+}
+
+}  // namespace
+}  // namespace mill
