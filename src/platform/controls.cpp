@@ -78,9 +78,10 @@ class LabelWidget final : public QLabel {
     setText(text);
     setAccessibleName(text);
     if (style_ == LabelStyle::AutoSize) fitText();
-    const bool told = style_ == LabelStyle::Bordered ? !text.isEmpty() : isCut();
-    setToolTip(told ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
-                    : QString());
+    const bool isPath = style_ == LabelStyle::Bordered && !text.isEmpty();
+    setToolTip(isPath || isCut()
+                   ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
+                   : QString());
   }
 
  protected:
@@ -89,7 +90,7 @@ class LabelWidget final : public QLabel {
     if (backColour_.isValid()) painter.fillRect(contentsRect(), backColour_);
     drawFrame(&painter);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(room(), layout(), text());
+    painter.drawText(room(), layout(), isCut() ? shortened() : text());
   }
 
   /// A click on a label isn't one on what it stands in.
@@ -109,8 +110,13 @@ class LabelWidget final : public QLabel {
   }
 
   bool isCut() const {
+    if (style_ != LabelStyle::Fixed) return false;
     const QRect need = fontMetrics().boundingRect(room(), layout(), text());
     return need.width() > room().width() || need.height() > room().height();
+  }
+
+  QString shortened() const {
+    return fontMetrics().elidedText(text(), Qt::ElideMiddle, room().width());
   }
 
   void fitText() {

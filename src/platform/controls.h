@@ -9,7 +9,7 @@ namespace forms {
 
 /// How a label's text is laid out.
 enum class LabelStyle {
-  Fixed,     ///< keeps its size; text wraps and is cut
+  Fixed,     ///< keeps its size; text wraps, and loses its middle where there isn't room for it
   AutoSize,  ///< as large as its text; the edge that the text is aligned to stays
   Bordered,  ///< fixed, with a border, for a path: wraps anywhere
   Patch,     ///< fixed, with a border, for a colour
@@ -24,8 +24,8 @@ struct Lettering {
   forms::Alignment Alignment = forms::Alignment::Left;
 };
 
-/// Plain text that the user can't change; `&` and `<` in it stand for themselves. Text that has
-/// been cut, and a path, can be read in a tool tip.
+/// Plain text that the user can't change; `&` and `<` in it stand for themselves. What there
+/// is no room for, and a path, can be read in a tool tip.
 class Label : public Control {
  public:
   Label(Container& parent, const char* name, const char* caption, const Rect& place,
