@@ -1,5 +1,4 @@
-#include "dialogs/frm_browse.h"
-#include "dialogs/frm_file_browse.h"
+#include "dialogs/browse.h"
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
@@ -60,9 +59,7 @@ void MainForm::filSource_DblClick() {
 }
 
 void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::string& directory) {
-  frmBrowse->setCaption(caption);
-  state.BrowseResult = box.Text();
-  frmBrowse->Show(forms::vbModal, *this);
+  browseForDirectory(caption, box.Text(), *this);
   if (state.BrowseResult.empty()) return;
   box.pick(state.BrowseResult);
   directory = box.Text();
@@ -81,11 +78,7 @@ void MainForm::cmdBrowsePal_Click() {
 }
 
 void MainForm::cmdBrowseDefault_Click() {
-  frmFileBrowse->setCaption("Browse for Palette File");
-  state.BrowseResult = lstDefault.Text();
-  state.FileResult.clear();
-  state.FilePattern = "*.pal";
-  frmFileBrowse->Show(forms::vbModal, *this);
+  browseForPalette(lstDefault.Text(), *this);
   if (state.BrowseResult.empty() || state.FileResult.empty()) return;
   state.FileResult = forms::join(state.BrowseResult, state.FileResult);
   lstDefault.pick(state.FileResult);

@@ -1,7 +1,6 @@
 #include "mainwindow/frm_options.h"
 
-#include "dialogs/frm_browse.h"
-#include "dialogs/frm_file_browse.h"
+#include "dialogs/browse.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/msg_box.h"
@@ -64,9 +63,7 @@ void OptionsForm::cmdApply_Click() {
 
 void OptionsForm::chooseDirectory(const char* caption, forms::TextBox& box,
                                   const forms::TextBox& other) {
-  frmBrowse->setCaption(caption);
-  state.BrowseResult = box.Text();
-  frmBrowse->Show(forms::vbModal, *this);
+  browseForDirectory(caption, box.Text(), *this);
   // Asked after a Cancel too, which equals an empty box.
   const bool usable = mayBeUsed(state.BrowseResult, other.Text());
   if (usable && !state.BrowseResult.empty()) box.setText(state.BrowseResult);
@@ -81,11 +78,7 @@ void OptionsForm::cmdDestBrowse_Click() {
 }
 
 void OptionsForm::cmdPalBrowse_Click() {
-  frmFileBrowse->setCaption("Browse for Palette File");
-  state.BrowseResult = txtPalette.Text();
-  state.FileResult.clear();
-  state.FilePattern = "*.pal";
-  frmFileBrowse->Show(forms::vbModal, *this);
+  browseForPalette(txtPalette.Text(), *this);
   if (state.BrowseResult.empty()) return;
   txtPalette.setText(forms::join(state.BrowseResult, state.FileResult));
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "dialogs/frm_browse.h"
+#include "dialogs/browse.h"
 #include "palette/load_palette.h"
 #include "palette/show_colours.h"
 #include "picture/fault.h"
@@ -87,9 +87,7 @@ void PalExtractForm::cmdLoad_Click() {
 }
 
 void PalExtractForm::cmdDestBrowse_Click() {
-  frmBrowse->setCaption("Browse for Destination Directory");
-  state.BrowseResult = lstDest.Text();
-  frmBrowse->Show(forms::vbModal, *this);
+  browseForDirectory("Browse for Destination Directory", lstDest.Text(), *this);
   if (!state.BrowseResult.empty()) lstDest.pick(state.BrowseResult);
 }
 

@@ -65,7 +65,8 @@ start_screen() {
   unset LC_ALL WAYLAND_DISPLAY WINEPREFIX QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS \
     QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE
 
-  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp 3>"$home/display" >"$home/xvfb.log" 2>&1 &
+  # Without -noreset the screen starts anew when the last client goes, under a manager that comes up.
+  Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -noreset 3>"$home/display" >"$home/xvfb.log" 2>&1 &
   screen=$!
   wait_until "the virtual screen" test -s "$home/display"
   DISPLAY=:$(<"$home/display")
