@@ -40,9 +40,9 @@ class SplashForm final : public forms::Form {
                           AutoSize,  {.Points = 12, .Bold = true, .Alignment = Right}};
   forms::Label lblNotice{Frame1, "lblNotice", "", {2340, 2760, 4560, 225}};
   forms::Label lblCompany{Frame1, "lblCompany", "Ferndale Computers", {240, 3060, 4560, 225}};
-  forms::Label lblWarning{Frame1, "lblWarning", "Warning", {240, 3420, 5100, 225}};
+  forms::Label lblWarning{Frame1, "lblWarning", "Warning", {240, 3300, 5100, 225}};
   forms::CommandButton cmdOK{
-      Frame1, "cmdOK", "OK", {5805, 3480, 1095, 375}, &SplashForm::cmdOK_Click};
+      Frame1, "cmdOK", "OK", {5805, 3540, 1095, 375}, &SplashForm::cmdOK_Click};
 };
 
 inline forms::Global<SplashForm> frmSplash;

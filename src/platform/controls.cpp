@@ -190,6 +190,7 @@ CommandButton::CommandButton(Container& parent, const char* name, const char* ca
     button->setDefault(true);
   }
   if (traits & Cancel) shell->cancelButton = button;
+  if (shell->hasMenu(button->shortcut())) button->setShortcut({});  // the menu's, not now and then
   QObject::connect(button, &QPushButton::clicked,
                    [this, click = std::move(click)] { click(form_); });
 }

@@ -1,6 +1,7 @@
 #include "platform/dir_tree.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -55,6 +56,11 @@ std::string DirTree::path() const {
   // The root item is the drive itself, "Z:\".
   if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
   return path;
+}
+
+void DirTree::keyPressEvent(QKeyEvent* event) {
+  // Opening everything below would never end where a link leads back.
+  if (event->key() != Qt::Key_Asterisk) QTreeWidget::keyPressEvent(event);
 }
 
 void DirTree::choose(const std::string& wanted) {

@@ -25,6 +25,9 @@ class DirTree final : public QTreeWidget {
 
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void open(QTreeWidgetItem* item);
   void fill(QTreeWidgetItem* item);

@@ -78,7 +78,6 @@ int FileView::chosenRow() const {
 void FileView::mousePressEvent(QMouseEvent* event) {
   // The other buttons select nothing.
   if (event->button() != Qt::LeftButton) return;
-  changed_ = false;
   gesture_ = indexAt(event->position().toPoint()).isValid() ? Gesture::OnItem : Gesture::OffItems;
   QListView::mousePressEvent(event);
 }
@@ -87,7 +86,6 @@ void FileView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   const bool onItem = indexAt(event->position().toPoint()).isValid();
   gesture_ = onItem ? Gesture::DoubleClick : Gesture::OffItems;
-  changed_ = false;
   QListView::mouseDoubleClickEvent(event);
 }
 
@@ -95,10 +93,11 @@ void FileView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QListView::mouseReleaseEvent(event);
   // The handlers may open windows, so they run when the gesture is over. A click on a file counts
-  // even where it changes nothing.
+  // even where it changes nothing, and so does one that means no file.
   const Gesture gesture = std::exchange(gesture_, Gesture::None);
   if (gesture == Gesture::DoubleClick) return doubleClicked();
-  if (gesture == Gesture::OnItem || (gesture == Gesture::OffItems && changed_)) clicked();
+  const bool meansNone = gesture == Gesture::OffItems && selectionMode() == ExtendedSelection;
+  if (gesture == Gesture::OnItem || meansNone) clicked();
 }
 
 void FileView::keyPressEvent(QKeyEvent* event) {

@@ -51,7 +51,7 @@ class FileView final : public QListView {
 
   NameModel model_;
   Gesture gesture_ = Gesture::None;
-  bool changed_ = false;  ///< the selection or the current row, since it was last cleared
+  bool changed_ = false;  ///< the selection or the current row, since a key was pressed
   /// The selected rows, read from the selection model once after each change.
   mutable std::vector<bool> selected_;
   mutable bool selectedIsStale_ = true;

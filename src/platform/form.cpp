@@ -158,11 +158,12 @@ void Form::Show(Mode mode, Form& owner) {
 
 void Form::place(Form* owner) {
   if (!placed_) shell_->fitToClient();
-  // A dialog stays above the window that it belongs to, and out of the task bar.
-  Form& below = owner ? *owner : Forms[0];
-  if (!isToolWindow(look_) && &below != this && below.Visible()) {
+  if (owner) {
     shell_->winId();
-    shell_->windowHandle()->setTransientParent(below.shell_->windowHandle());
+    shell_->windowHandle()->setTransientParent(owner->shell_->windowHandle());
+  } else if (!placed_ && !look_.MinButton) {
+    // Shown by itself, a dialog stays out of the task bar as a tool window does.
+    shell_->setWindowFlag(Qt::Tool);
   }
   const QSize size = shell_->size();
   if (look_.Position == StartUpPosition::CentreOwner && owner) {
@@ -191,16 +192,28 @@ void Form::placeBesideMain() {
   main.moveCenter(screen.center());
   if (Forms[0].Visible()) main = Forms[0].shell_->geometry();
   const QSize size = shell_->size();
-  for (const QPoint& place : {QPoint(main.right() + kGap, main.top()),
-                              QPoint(main.left() - kGap - size.width(), main.top()),
-                              QPoint(main.left(), main.bottom() + kGap + kFramePixels.top())}) {
-    const QRect whole = QRect(place, size) + kFramePixels;
-    bool isFree = screen.contains(whole);
-    for (int i = 0; i < Forms.Count(); ++i) {
-      isFree &= !Forms[i].Visible() || !whole.intersects(Forms[i].shell_->frameGeometry());
+  const QRect inner = screen - kFramePixels;
+  // Takes the first of these places that is free of all windows from that one on.
+  const auto take = [&](std::initializer_list<QPoint> places, int first) {
+    for (const QPoint& place : places) {
+      const QRect whole = QRect(place, size) + kFramePixels;
+      bool isFree = screen.contains(whole);
+      for (int i = first; i < Forms.Count(); ++i) {
+        isFree &= !Forms[i].Visible() || !whole.intersects(Forms[i].shell_->frameGeometry());
+      }
+      if (!isFree) continue;
+      shell_->setGeometry(QRect(place, size));
+      return true;
     }
-    if (isFree) return shell_->setGeometry(QRect(place, size));
-  }
+    return false;
+  };
+  const bool beside = take({QPoint(main.right() + kGap, main.top()),
+                            QPoint(main.left() - kGap - size.width(), main.top()),
+                            QPoint(main.left(), main.bottom() + kGap + kFramePixels.top())},
+                           0);
+  // On a small screen in a corner, partly behind the main window.
+  const QPoint lastCorner = inner.bottomRight() - QPoint(size.width(), size.height());
+  if (!beside) take({inner.topLeft(), lastCorner}, 1);
 }
 
 void Form::present() {

@@ -1,9 +1,12 @@
 #include "platform/shell.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+
+#include <algorithm>
 
 #include "platform/form.h"
 
@@ -24,6 +27,14 @@ QMenuBar* Shell::menuBar() {
     menuBar_->setNativeMenuBar(false);
   }
   return menuBar_;
+}
+
+bool Shell::hasMenu(const QKeySequence& mnemonic) const {
+  if (!menuBar_ || mnemonic.isEmpty()) return false;
+  const auto menus = menuBar_->actions();
+  return std::any_of(menus.begin(), menus.end(), [&](const QAction* menu) {
+    return QKeySequence::mnemonic(menu->text()) == mnemonic;
+  });
 }
 
 void Shell::fitToClient() {
@@ -102,7 +113,8 @@ bool FormInput::takeKey(Shell& shell, QWidget& receiver, const QKeyEvent& key) {
   // mean.
   auto* focused = qobject_cast<QPushButton*>(&receiver);
   if (enter && button != shell.cancelButton && focused) button = focused;
-  if (button && !key.isAutoRepeat()) button->click();
+  const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == 0;
+  if (button && plain && !key.isAutoRepeat()) button->click();
   return true;
 }
 

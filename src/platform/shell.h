@@ -19,6 +19,8 @@ class Shell final : public QWidget {
 
   QWidget* client() { return client_; }
   QMenuBar* menuBar();
+  /// Whether `mnemonic` opens one of its menus.
+  bool hasMenu(const QKeySequence& mnemonic) const;
   /// The size of the whole window that gives the client area its own.
   void fitToClient();
   void focusFirst();

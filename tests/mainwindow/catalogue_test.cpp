@@ -215,8 +215,8 @@ const Row kRows[] = {
     {"Frame1.lblVersion", "Version 1.3.10", {-6900, 2400}},
     {"Frame1.lblNotice", "", {2340, 2760, 4560, 225}},
     {"Frame1.lblCompany", "Ferndale Computers", {240, 3060, 4560, 225}},
-    {"Frame1.lblWarning", "Warning", {240, 3420, 5100, 225}},
-    {"Frame1.cmdOK", "OK", {5805, 3480, 1095, 375}},
+    {"Frame1.lblWarning", "Warning", {240, 3300, 5100, 225}},
+    {"Frame1.cmdOK", "OK", {5805, 3540, 1095, 375}},
 };
 
 struct Command {
