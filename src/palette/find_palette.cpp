@@ -57,6 +57,7 @@ std::vector<std::string> matchingPalettes() {
 void settlePalette() {
   if (state.PictureRecord.PaletteIndex == 0) {
     state.CurrentPaletteFile = forms::join(forms::tempDirectory(), "bmp.pal");
+    namesOfRun.reset();
     return;
   }
   const std::vector<std::string> matches = matchingPalettes();

@@ -14,8 +14,8 @@ inline std::function<void(const std::vector<std::string>& paths)> choosePalette;
 inline std::function<void()> showPaletteFile;
 
 /// While one lives, as during the conversion of many pictures, the palette directories are read
-/// once and not for every picture; and again after the chooser was open, since the user may have
-/// put a palette there meanwhile.
+/// once and not for every picture; and again after the chooser or the question about a standard
+/// bitmap was open, since the user may have put a palette there meanwhile.
 class PaletteSearchRun {
  public:
   PaletteSearchRun();

@@ -93,6 +93,8 @@ void reportHeader(std::int16_t first, Progress& progress) {
 }
 
 bool isWrongShape(const BitmapHeader& header, std::int64_t fileSize) {
+  // With another header or table the colours stand elsewhere.
+  if (header.biSize != kInfoHeaderSize || header.bfOffBits != kBitmapDataOffset) return true;
   if (header.biBitCount != 8 || header.biSizeImage < 0) return true;
   if (header.biSizeImage > kMaxImageSize) return true;
   if (fileSize < std::int64_t{kBitmapDataOffset} + header.biSizeImage) return true;

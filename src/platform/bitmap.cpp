@@ -3,8 +3,11 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
+#include <QtEndian>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -64,6 +67,15 @@ QByteArray readWhole(const std::string& path) {
   return bytes;
 }
 
+/// The reader takes rows of a multiple of four bytes, which not every writer gives. What the last
+/// rows lack then is colour 0, and not what happens to be in memory.
+void addMissingPadding(QByteArray& bytes) {
+  constexpr qsizetype kHeightAt = 22;
+  if (bytes.size() < kHeightAt + 4) return;
+  const auto height = qFromLittleEndian<qint32>(bytes.constData() + kHeightAt);
+  bytes.append(3 * std::min<qsizetype>(std::abs(qint64{height}), bytes.size()), '\0');
+}
+
 }  // namespace
 
 Bitmap::Bitmap(std::unique_ptr<QImage> image) : image_(std::move(image)) {}
@@ -73,6 +85,7 @@ Bitmap::~Bitmap() = default;
 std::unique_ptr<Bitmap> Bitmap::load(const std::string& path, int width, int height) {
   const NoLimit noLimit;
   QByteArray bytes = readWhole(path);
+  addMissingPadding(bytes);
   QBuffer buffer(&bytes);
   QImage image = QImageReader(&buffer, "BMP").read();
   if (!image.isNull() && (width != 0 || height != 0)) image = stretched(image, width, height);

@@ -102,7 +102,14 @@ void FileView::mouseReleaseEvent(QMouseEvent* event) {
 
 void FileView::keyPressEvent(QKeyEvent* event) {
   changed_ = false;
-  QListView::keyPressEvent(event);
+  const bool steps = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  const bool isFirst = !selectionModel()->hasSelection() && currentIndex().isValid();
+  if (steps && isFirst && event->modifiers() == Qt::NoModifier) {
+    // It leads to the file that the focus came to, not to the one behind.
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+  } else {
+    QListView::keyPressEvent(event);
+  }
   if (changed_) clicked();
 }
 

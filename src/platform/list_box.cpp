@@ -10,6 +10,7 @@ ListBox::ListBox(Container& parent, const char* name, const Rect& place, Handler
   auto* view = as<FileView>();
   view->clicked = [this, click] { click(form_); };
   view->doubleClicked = [] {};
+  view->setUniformItemSizes(false);  // few enough to be measured, and long ones can be scrolled
 }
 
 void ListBox::AddItem(const std::string& text) {
