@@ -19,17 +19,11 @@ using test::press;
 constexpr const char* kBrowse = "frmBrowse";
 constexpr const char* kFileBrowse = "frmFileBrowse";
 constexpr const char* kSave = "frmSave";
-constexpr const char* kDialogs[] = {kBrowse, kFileBrowse, kSave};
-
-class Owner final : public forms::Form {
- public:
-  Owner() : Form({.Name = "owner", .Caption = "", .BorderStyle = {}, .Client = {3000, 3000}}) {}
-};
 
 /// Over the folders "a", "a/b" and "c" and a drive C: that is "c".
-class BrowseDialogsTest : public test::WindowTest {
+class BrowseDialogs : public test::WindowTest {
  protected:
-  BrowseDialogsTest() {
+  BrowseDialogs() {
     for (const char* name : {"a/b", "c/sub", "prefix/dosdevices"}) folder.makeFolder(name);
     std::filesystem::create_directory_symlink(folder.path("c"),
                                               folder.path("prefix/dosdevices/c:"));
@@ -37,7 +31,7 @@ class BrowseDialogsTest : public test::WindowTest {
     for (const char* name : {"a/1.pal", "a/2.PAL", "a/3.txt", "c/4.pal"}) folder.write(name, {});
     state.FilePattern = "*.pal";
   }
-  ~BrowseDialogsTest() override { ::unsetenv("WINEPREFIX"); }
+  ~BrowseDialogs() override { ::unsetenv("WINEPREFIX"); }
 
   /// Shows a dialog with a seed and runs `act` in it.
   void use(const char* dialog, const std::string& seed, std::function<void()> act) {
@@ -56,11 +50,14 @@ class BrowseDialogsTest : public test::WindowTest {
   static void pressKey(const char* dialog, const char* name, Qt::Key key) {
     QTest::keyClick(control(dialog, name), key);
   }
+  static QString directory(const char* dialog) {
+    return control<QTreeWidget>(dialog, "Dir1")->currentItem()->text(0);
+  }
 
-  Owner owner;
+  forms::Form owner{{.Name = "owner", .Caption = "", .BorderStyle = {}, .Client = {3000, 3000}}};
 };
 
-TEST_F(BrowseDialogsTest, StartWhereTheSeedSays) {
+TEST_F(BrowseDialogs, StartWhereTheSeedSaysAndTheirListsFollowEachOther) {
   const std::string a = folder.drive("a"), b = folder.drive("a\\b");
   struct Case {
     std::string seed;
@@ -79,67 +76,55 @@ TEST_F(BrowseDialogsTest, StartWhereTheSeedSays) {
       {"no directory", "C:\\sub", "C:\\sub"},
       {folder.drive() + "\\\\a\\\\b\\\\x", b, b},
   };
-  for (const char* dialog : kDialogs) {
+  for (const char* dialog : {kBrowse, kFileBrowse, kSave}) {
+    SCOPED_TRACE(dialog);
     for (const Case& c : cases) {
       use(dialog, c.seed, [&] {
         if (dialog == kSave) control<QLineEdit>(dialog, "txtFilename")->setText("x.pal");
         pressOK(dialog);
       });
-      EXPECT_EQ(state.BrowseResult, dialog == kBrowse ? c.directory : c.ofFile)
-          << dialog << " " << c.seed;
+      EXPECT_EQ(state.BrowseResult, dialog == kBrowse ? c.directory : c.ofFile) << c.seed;
     }
-  }
-}
-
-TEST_F(BrowseDialogsTest, EscapeAndCancelEmptyWhatTheCloseBoxLeaves) {
-  const std::string seed = folder.drive("a") + "\\x";
-  for (const char* dialog : kDialogs) {
-    SCOPED_TRACE(dialog);
-    struct Case {
-      std::function<void()> act;
-      std::string directory, file;
-    };
-    const bool hasFile = dialog != kBrowse;
-    const Case cases[] = {
-        {[&] { press(dialog, hasFile ? "cmdCancel" : "CancelButton"); }, "", hasFile ? "" : "old"},
-        {[&] { pressKey(dialog, "Dir1", Qt::Key_Escape); }, "", hasFile ? "" : "old"},
-        {[&] { test::window(dialog)->close(); }, seed, "old"}};
-    for (const Case& c : cases) {
-      state.FileResult = "old";
-      use(dialog, seed, c.act);
-      EXPECT_EQ(state.BrowseResult, c.directory);
-      EXPECT_EQ(state.FileResult, c.file);
-    }
-    // After the close box the next one is new and begins where the lists begin by themselves.
-    use(dialog, "", [&] {
-      EXPECT_EQ(control<QTreeWidget>(dialog, "Dir1")->currentItem()->text(0), "Z:\\");
-      pressKey(dialog, "Dir1", Qt::Key_Escape);
-    });
-  }
-}
-
-TEST_F(BrowseDialogsTest, TheListsFollowEachOther) {
-  for (const char* dialog : kDialogs) {
-    SCOPED_TRACE(dialog);
-    use(dialog, folder.drive("a") + "\\", [&] {
-      const auto expect = [&](const char* directory, int count) {
-        EXPECT_EQ(control<QTreeWidget>(dialog, "Dir1")->currentItem()->text(0), directory);
+    use(dialog, a + "\\", [&] {
+      const auto expect = [&](const char* name, int files) {
+        EXPECT_EQ(directory(dialog), name);
         if (dialog == kBrowse) return;
-        EXPECT_EQ(control<QListView>(dialog, "File1")->model()->rowCount(), count);
+        EXPECT_EQ(control<QListView>(dialog, "File1")->model()->rowCount(), files);
       };
       expect("a", 2);
       pressKey(dialog, "Dir1", Qt::Key_Down);
       expect("b", 0);
       control<QComboBox>(dialog, "Drive1")->setCurrentText("C:");
       expect("C:\\", 1);
-      if (dialog == kSave) pressKey(dialog, "txtFilename", Qt::Key_X);
       pressKey(dialog, "Dir1", Qt::Key_Return);
     });
     EXPECT_EQ(state.BrowseResult, "C:\\");
   }
 }
 
-TEST_F(BrowseDialogsTest, OKGivesADirectoryThatStillExists) {
+TEST_F(BrowseDialogs, EscapeAndCancelEmptyWhatTheCloseBoxLeaves) {
+  const std::string seed = folder.drive("a") + "\\x";
+  for (const char* dialog : {kBrowse, kFileBrowse, kSave}) {
+    SCOPED_TRACE(dialog);
+    const std::pair<std::function<void()>, bool> cases[] = {
+        {[&] { press(dialog, dialog == kBrowse ? "CancelButton" : "cmdCancel"); }, true},
+        {[&] { pressKey(dialog, "Dir1", Qt::Key_Escape); }, true},
+        {[&] { test::window(dialog)->close(); }, false}};
+    for (const auto& [act, empties] : cases) {
+      state.FileResult = "old";
+      use(dialog, seed, act);
+      EXPECT_EQ(state.BrowseResult, empties ? "" : seed);
+      EXPECT_EQ(state.FileResult, empties && dialog != kBrowse ? "" : "old");
+    }
+    // After the close box the next one is new and begins where the lists begin by themselves.
+    use(dialog, "", [&] {
+      EXPECT_EQ(directory(dialog), "Z:\\");
+      pressKey(dialog, "Dir1", Qt::Key_Escape);
+    });
+  }
+}
+
+TEST_F(BrowseDialogs, OKGivesADirectoryThatStillExists) {
   use(kBrowse, folder.drive("a/b"), [&] {
     std::filesystem::remove(folder.path("a/b"));
     pressOK(kBrowse);
@@ -147,7 +132,7 @@ TEST_F(BrowseDialogsTest, OKGivesADirectoryThatStillExists) {
   EXPECT_EQ(state.BrowseResult, folder.drive("a"));
 }
 
-TEST_F(BrowseDialogsTest, FileBrowseGivesTheSelectedNameOrNone) {
+TEST_F(BrowseDialogs, FileBrowseGivesTheSelectedNameOrNone) {
   const auto click = [](Qt::KeyboardModifiers keys = {}) {
     auto* list = control<QListView>(kFileBrowse, "File1");
     const QPoint at = list->visualRect(list->model()->index(1, 0)).center();
@@ -172,15 +157,15 @@ TEST_F(BrowseDialogsTest, FileBrowseGivesTheSelectedNameOrNone) {
   }
 }
 
-TEST_F(BrowseDialogsTest, SaveTakesAnyNameAndKeepsItForTheNextUse) {
-  const auto name = [] { return control<QLineEdit>(kSave, "txtFilename"); };
-  use(kSave, folder.drive("a/1.pal"), [&] {
-    EXPECT_EQ(name()->text(), "");
+TEST_F(BrowseDialogs, SaveTakesAnyNameAndKeepsItForTheNextUse) {
+  use(kSave, folder.drive("a/1.pal"), [] {
+    auto* name = control<QLineEdit>(kSave, "txtFilename");
+    EXPECT_EQ(name->text(), "");
     pressOK(kSave);  // does nothing without a name
     pressKey(kSave, "File1", Qt::Key_Home);
-    EXPECT_EQ(name()->text(), "1.pal");
-    name()->selectAll();
-    QTest::keyClicks(name(), "b\\new <i>&.abc");
+    EXPECT_EQ(name->text(), "1.pal");
+    name->selectAll();
+    QTest::keyClicks(name, "b\\new <i>&.abc");
     pressKey(kSave, "Dir1", Qt::Key_Down);
     EXPECT_TRUE(test::window(kSave)->isVisible());
     pressKey(kSave, "txtFilename", Qt::Key_Return);

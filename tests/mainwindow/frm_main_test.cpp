@@ -3,12 +3,15 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QTest>
 
 #include "picture/program_state.h"
 #include "platform/application.h"
+#include "platform/paths.h"
+#include "platform/settings.h"
 #include "support/windows.h"
 
 namespace mill {
@@ -28,6 +31,10 @@ class MainWindow : public test::MainWindowTest {
     set("ShowPrev", "True");
   }
 
+  static QCheckBox* tick(const char* name) { return control<QCheckBox>("frmMain", name); }
+  static QAction* item(const std::string& name) {
+    return control<QAction>("frmMain", name.c_str());
+  }
   static QComboBox* box(const char* name) { return control<QComboBox>("frmMain", name); }
   static std::string text(const char* name) { return box(name)->currentText().toStdString(); }
   static void type(const char* name, const std::string& text) {
@@ -55,13 +62,84 @@ class MainWindow : public test::MainWindowTest {
     Names found;
     for (const std::string name : {"Open", "Convert", "Batch", "Info"}) {
       const bool enabled = control("frmMain", ("cmd" + name).c_str())->isEnabled();
-      EXPECT_EQ(test::menuItem("frmMain", ("mnu" + name).c_str())->isEnabled(), enabled) << name;
+      EXPECT_EQ(item("mnu" + name)->isEnabled(), enabled) << name;
       if (enabled) found.push_back(name);
     }
     return found;
   }
   Bytes temporary() const { return test::readFile(folder.path("temp.bmp")); }
 };
+
+TEST_F(MainWindow, TakesTheDefaultsAtFirstAndStoresTheTicksButNothingTyped) {
+  constexpr const char* kTitle = forms::Application::Title;
+  std::filesystem::remove(forms::nativePath(forms::settingsFile(kTitle)));
+  start();
+  const std::string app = forms::App.Path(), data = app + "\\data", palette = data + "\\base.pal";
+  messages.expectLast(1, "The palette file does not exist.", "", forms::Icon::None);
+  const std::pair<const char*, std::string> paths[] = {
+      {"lstSource", app}, {"lstDest", data}, {"lstPalette", data}, {"lstDefault", palette}};
+  for (const auto& [name, path] : paths) {
+    EXPECT_EQ(text(name), path);
+    type(name, "Z:\\typed");
+  }
+  EXPECT_EQ(control<QLabel>("frmMain", "lblPalFile")->text().toStdString(), palette);
+  for (const char* name : {"chkPrev", "chkPal", "chkAutoPal", "chkResize", "chkSearch"}) {
+    EXPECT_TRUE(tick(name)->isChecked() && tick(name)->isEnabled()) << name;
+  }
+  EXPECT_TRUE(!tick("chkAutoPrev")->isChecked() && tick("chkAutoPrev")->isEnabled());
+  for (const char* tool : {"frmPalToolbar", "frmPreviewToolbar"}) {
+    EXPECT_TRUE(test::window(tool)->isVisible()) << tool;
+  }
+  EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMain);
+  for (QCheckBox* tick : test::window("frmMain")->findChildren<QCheckBox*>()) tick->toggle();
+  press("frmMain", "cmdExit");
+  EXPECT_EQ(forms::Forms.Count(), 0);
+  const std::pair<const char*, std::string> settings[] = {
+      {"Source", app},        {"Dest", data},        {"PalDir", data},     {"Palette", palette},
+      {"ShowPal", "False"},   {"ShowPrev", "False"}, {"AutoPrev", "True"}, {"AutoPal", "False"},
+      {"ResizeFit", "False"}, {"Search", "False"}};
+  for (const auto& [key, value] : settings) {
+    EXPECT_EQ(forms::GetSetting(kTitle, "Settings", key, "nothing"), value) << key;
+  }
+}
+
+TEST_F(MainWindow, OffersTheOptionsOnceTheStartIsOver) {
+  set("ShowPal", "True");  // which shows the main window in the middle of it
+  frmMain.Load();
+  EXPECT_FALSE(item("mnuOptions")->isEnabled());
+  frmMain->Show();
+  EXPECT_TRUE(item("mnuOptions")->isEnabled());
+}
+
+TEST_F(MainWindow, ReplacesASourceWithoutFiles) {
+  folder.makeFolder("only/folders");
+  folder.makeFolder("hidden");
+  folder.write("hidden/.file", {});
+  for (const std::string source : {"only", "hidden", "gone", "in"}) {
+    set("Source", folder.drive(source));
+    start();
+    EXPECT_EQ(text("lstSource"), source == "in" ? folder.drive(source) : forms::App.Path());
+    frmMain->Unload();
+    test::settle();
+  }
+}
+
+TEST_F(MainWindow, ABoxThatIsOffKeepsItsTick) {
+  set("ShowPrev", "False");
+  set("AutoPrev", "True");
+  set("Search", "True");
+  set("ResizeFit", "maybe");  // counts as missing, and True is the default
+  start();
+  for (const bool enabled : {false, true, false}) {
+    for (const char* name : {"chkAutoPrev", "chkSearch", "chkResize"}) {
+      EXPECT_TRUE(tick(name)->isChecked() && tick(name)->isEnabled() == enabled) << name;
+    }
+    EXPECT_EQ(control("frmMain", "cmdOpen")->isEnabled(), enabled);
+    EXPECT_TRUE(state.AutoPrev && state.Search && state.ResizeFit);
+    for (const char* name : {"chkPrev", "chkAutoPal"}) tick(name)->click();
+    EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMain);
+  }
+}
 
 TEST_F(MainWindow, TheSelectionDecidesWhichCommandsCanBeUsed) {
   struct Case {
@@ -105,7 +183,7 @@ TEST_F(MainWindow, ThePreviewCommandOpensAndWritesThePicture) {
   EXPECT_FALSE(state.PreviewDC);
 
   select({"a.bmp"});
-  test::menuItem("frmMain", "mnuOpen")->trigger();
+  item("mnuOpen")->trigger();
   EXPECT_EQ(commands(), (Names{"Convert", "Info"}));
   EXPECT_EQ(temporary(), a);
   // A refused file leaves the picture before it in the preview.
@@ -129,11 +207,11 @@ TEST_F(MainWindow, ThePreviewCommandOpensAndWritesThePicture) {
 TEST_F(MainWindow, WithoutThePreviewWindowTheCommandDoesNothing) {
   start();
   select({"a.bmp"});
-  control<QCheckBox>("frmMain", "chkPrev")->click();
+  tick("chkPrev")->click();
   EXPECT_FALSE(control("frmMain", "cmdOpen")->isEnabled());
-  EXPECT_TRUE(test::menuItem("frmMain", "mnuOpen")->isEnabled());  // keeps its state
+  EXPECT_TRUE(item("mnuOpen")->isEnabled());  // keeps its state
   state.AutoPrev = true;
-  test::menuItem("frmMain", "mnuOpen")->trigger();
+  item("mnuOpen")->trigger();
   EXPECT_FALSE(doubleClick("a.bmp", Qt::Key_Escape));
   EXPECT_EQ(state.PictureFileName, "");
   EXPECT_FALSE(folder.exists("temp.bmp"));
@@ -149,6 +227,7 @@ TEST_F(MainWindow, ADoubleClickPreviewsThenOffersToConvert) {
   EXPECT_FALSE(doubleClick("a.bmp", Qt::Key_Escape));
   state.IsStandardBitmap = false;
   EXPECT_TRUE(doubleClick("a.bmp", Qt::Key_Escape));
+  EXPECT_EQ(commands(), Names{"Info"});
   EXPECT_FALSE(folder.exists("out/a.bmp"));
   EXPECT_TRUE(doubleClick("a.bmp", Qt::Key_Space));
   EXPECT_EQ(test::readFile(folder.path("out/a.bmp")), a);
@@ -159,21 +238,6 @@ TEST_F(MainWindow, ADoubleClickPreviewsThenOffersToConvert) {
   select({"c.bmp"});
   EXPECT_EQ(state.PictureFileName, "c.bmp");
   EXPECT_EQ(commands(), (Names{"Convert", "Info"}));
-}
-
-TEST_F(MainWindow, EachCheckBoxSetsItsFlagAndLeavesTheMainWindowActive) {
-  const std::pair<const char*, bool&> cases[] = {
-      {"chkPrev", state.ShowPrev}, {"chkAutoPrev", state.AutoPrev}, {"chkResize", state.ResizeFit},
-      {"chkPal", state.ShowPal},   {"chkAutoPal", state.AutoPal},   {"chkSearch", state.Search}};
-  start();
-  for (const auto& [name, flag] : cases) {
-    const bool before = flag;
-    for (const bool expected : {!before, before}) {
-      control<QCheckBox>("frmMain", name)->toggle();
-      EXPECT_EQ(flag, expected) << name;
-      EXPECT_EQ(forms::Screen.ActiveForm(), &*frmMain);
-    }
-  }
 }
 
 TEST_F(MainWindow, WarnsWheneverTheDirectoriesBecomeOne) {
@@ -198,11 +262,12 @@ TEST_F(MainWindow, WarnsWheneverTheDirectoriesBecomeOne) {
   EXPECT_EQ(list()->model()->rowCount(), 3);
 }
 
-TEST_F(MainWindow, BrowseButtonsFillBoxListAndState) {
+TEST_F(MainWindow, BrowsingFillsBoxAndStateOnceAndLoadsNoPalette) {
   const std::tuple<const char*, const char*, std::string&> cases[] = {
       {"cmdSourceBrowse", "lstSource", state.SourceDir},
       {"cmdDestBrowse", "lstDest", state.DestDir},
       {"cmdBrowsePal", "lstPalette", state.PalDir}};
+  folder.write("pal/25.pal", {});
   start();
   for (const auto& [button, name, chosen] : cases) {
     const std::string first = text(name), wanted = folder.drive(name);
@@ -215,17 +280,12 @@ TEST_F(MainWindow, BrowseButtonsFillBoxListAndState) {
     EXPECT_EQ(text(name), wanted);
     EXPECT_EQ(box(name)->count(), 2);
   }
-}
-
-TEST_F(MainWindow, BrowsingForTheDefaultPaletteLoadsNone) {
-  folder.write("pal/25.pal", {});
-  start();
-  for (const bool chosen : {false, true}) {
+  for (const char* file : {"base.pal", "25.pal"}) {
     pressAndThen("frmMain", "cmdBrowseDefault", [&] {
-      if (chosen) QTest::keyClick(control("frmFileBrowse", "File1"), Qt::Key_Home);
+      if (*file == '2') QTest::keyClick(control("frmFileBrowse", "File1"), Qt::Key_Home);
       press("frmFileBrowse", "cmdOK");
     });
-    EXPECT_EQ(text("lstDefault"), folder.drive(chosen ? "pal/25.pal" : "pal/base.pal"));
+    EXPECT_EQ(text("lstDefault"), folder.drive("pal/") + file);
     EXPECT_EQ(state.DefaultPalette, text("lstDefault"));
     EXPECT_EQ(state.CurrentPaletteFile, folder.drive("pal/base.pal"));
   }

@@ -3,8 +3,6 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include "dialogs/frm_browse.h"
-#include "dialogs/frm_file_browse.h"
 #include "picture/program_state.h"
 #include "support/windows.h"
 
@@ -19,34 +17,38 @@ constexpr const char* kForm = "frmOptions";
 
 class Options : public test::WindowTest {
  protected:
-  Options() {
-    state.SourceDir = folder.drive();
+  Options() { open(); }
+
+  void open() {
+    if (frmOptions.isLoaded()) frmOptions->Unload();
+    state.SourceDir = source;
     state.DestDir = "Z:\\dest";
     state.DefaultPalette = "Z:\\old.pal";
     frmOptions->Show();
   }
-
   static QLineEdit* box(const char* name) { return control<QLineEdit>(kForm, name); }
   static std::string text(const char* name) { return box(name)->text().toStdString(); }
   static void type(const char* name, const std::string& text) {
-    box(name)->selectAll();
-    QTest::keyClick(box(name), Qt::Key_Delete);
-    QTest::keyClicks(box(name), QString::fromStdString(text));
+    box(name)->setText(QString::fromStdString(text));
   }
   static bool mayApply() { return control(kForm, "cmdApply")->isEnabled(); }
+  static void browse(const char* button, const char* dialog, const char* answer) {
+    test::pressAndThen(kForm, button, [=] { press(dialog, answer); });
+  }
 
   void expectWarnings(std::size_t count) {
-    const std::vector<std::string> warning(
-        count,
+    const std::string warning =
         "The source and destination directories must be different.\r\n"
-        "Are you sure you want to continue?");
-    EXPECT_EQ(messages.texts(), warning);
+        "Are you sure you want to continue?";
+    EXPECT_EQ(messages.texts(), std::vector<std::string>(count, warning));
   }
-  static void expectStored(const char* source, const char* dest, const char* palette) {
+  static void expectStored(const std::string& source, const char* dest, const char* palette) {
     EXPECT_EQ(state.SourceDir, source);
     EXPECT_EQ(state.DestDir, dest);
     EXPECT_EQ(state.DefaultPalette, palette);
   }
+
+  const std::string source = folder.drive();
 };
 
 TEST_F(Options, StoresAtOKAndAtApplyAndNotAtCancel) {
@@ -72,53 +74,42 @@ TEST_F(Options, StoresAtOKAndAtApplyAndNotAtCancel) {
   expectWarnings(0);
 }
 
-TEST_F(Options, AsksAtOKWhereBothDirectoriesAreOne) {
-  type("txtSource", "Z:\\dest");
-  type("txtPalette", "Z:\\new.pal");
-  messages.answers = {Answer::Cancel, Answer::OK};
-  press(kForm, "cmdOK");
-  expectStored(folder.drive().c_str(), "Z:\\dest", "Z:\\old.pal");
-  EXPECT_EQ(text("txtSource"), folder.drive());
-  EXPECT_EQ(text("txtPalette"), "Z:\\new.pal");
-
-  type("txtSource", "Z:\\dest");
-  press(kForm, "cmdOK");
-  expectStored("Z:\\dest", "Z:\\dest", "Z:\\new.pal");
-  expectWarnings(2);
-}
-
-TEST_F(Options, ApplyStoresThePaletteWhateverIsAnswered) {
-  const std::string source = folder.drive();
-  type("txtSource", "Z:\\dest");
-  type("txtPalette", "Z:\\new.pal");
-  messages.answers = {Answer::Cancel, Answer::OK};
-  press(kForm, "cmdApply");
-  expectStored(source.c_str(), "Z:\\dest", "Z:\\new.pal");
-  EXPECT_EQ(text("txtSource"), source);
-  EXPECT_FALSE(mayApply());
-
-  type("txtSource", "Z:\\dest");
-  press(kForm, "cmdApply");
-  expectStored("Z:\\dest", "Z:\\dest", "Z:\\new.pal");
-  expectWarnings(2);
+TEST_F(Options, AsksWhereBothDirectoriesAreOne) {
+  // The button, the answer, and the palette that is stored then.
+  const std::tuple<std::string, Answer, const char*> cases[] = {
+      {"cmdOK", Answer::Cancel, "Z:\\old.pal"},
+      {"cmdOK", Answer::OK, "Z:\\new.pal"},
+      {"cmdApply", Answer::Cancel, "Z:\\new.pal"},
+      {"cmdApply", Answer::OK, "Z:\\new.pal"}};
+  for (const auto& [button, answer, palette] : cases) {
+    const bool same = answer == Answer::OK;
+    open();
+    type("txtSource", "Z:\\dest");
+    type("txtPalette", "Z:\\new.pal");
+    messages.answers = {answer};
+    press(kForm, button.c_str());
+    expectWarnings(1);
+    expectStored(same ? "Z:\\dest" : source, "Z:\\dest", palette);
+    EXPECT_EQ(frmOptions.isLoaded(), button == "cmdApply" || !same);
+    if (!frmOptions.isLoaded()) continue;
+    EXPECT_EQ(text("txtSource"), state.SourceDir);
+    EXPECT_EQ(text("txtPalette"), "Z:\\new.pal");
+    EXPECT_EQ(mayApply(), button != "cmdApply");
+  }
 }
 
 TEST_F(Options, BrowsesForDirectories) {
-  const std::string source = folder.drive();
-  const auto browse = [](const char* button, const char* answer) {
-    test::pressAndThen(kForm, button, [=] { press("frmBrowse", answer); });
-  };
   type("txtDest", "");
-  browse("cmdSourceBrowse", "CancelButton");  // its empty result equals the empty box
+  browse("cmdSourceBrowse", "frmBrowse", "CancelButton");  // its empty result equals the empty box
   expectWarnings(1);
   EXPECT_EQ(text("txtSource"), source);
 
   // The directory of the other box, which comes back without the backslash.
   messages.answers = {Answer::Cancel, Answer::OK};
   type("txtDest", source + "\\");
-  browse("cmdDestBrowse", "OKButton");
+  browse("cmdDestBrowse", "frmBrowse", "OKButton");
   EXPECT_EQ(text("txtDest"), source + "\\");
-  browse("cmdDestBrowse", "OKButton");
+  browse("cmdDestBrowse", "frmBrowse", "OKButton");
   EXPECT_EQ(text("txtDest"), source);
   expectWarnings(2);
   EXPECT_EQ(state.DestDir, "Z:\\dest");
@@ -127,10 +118,10 @@ TEST_F(Options, BrowsesForDirectories) {
 TEST_F(Options, BrowsesForAPaletteWithOrWithoutAName) {
   folder.write("1.pal", {});
   type("txtPalette", folder.drive("x.pal"));
-  test::pressAndThen(kForm, "cmdPalBrowse", [] { press("frmFileBrowse", "cmdCancel"); });
+  browse("cmdPalBrowse", "frmFileBrowse", "cmdCancel");
   EXPECT_EQ(text("txtPalette"), folder.drive("x.pal"));
-  test::pressAndThen(kForm, "cmdPalBrowse", [] { press("frmFileBrowse", "cmdOK"); });
-  EXPECT_EQ(text("txtPalette"), folder.drive() + "\\");
+  browse("cmdPalBrowse", "frmFileBrowse", "cmdOK");
+  EXPECT_EQ(text("txtPalette"), source + "\\");
   test::pressAndThen(kForm, "cmdPalBrowse", [] {
     QTest::keyClick(control("frmFileBrowse", "File1"), Qt::Key_Down);
     press("frmFileBrowse", "cmdOK");

@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QTest>
 
@@ -11,6 +10,7 @@
 
 #include "picture/program_state.h"
 #include "platform/common_dialog.h"
+#include "platform/paths.h"
 #include "support/windows.h"
 
 namespace mill {
@@ -19,25 +19,22 @@ namespace {
 using model::someColours;
 using test::Bytes;
 using test::control;
-using test::readFile;
 
 constexpr const char* kForm = "frmPalExtract";
 
 /// Over the lists "sky.ksl" with the palettes 25, -7, 25 and "two.ksl" with 12, 0, and a folder
 /// "out".
-class PalExtract : public test::WindowTest {
+class Extractor : public test::WindowTest {
  protected:
-  PalExtract() {
+  Extractor() {
     folder.makeFolder("out");
     folder.write("sky.ksl", sky);
     folder.write("two.ksl", model::paletteList({{someColours(4), 12}, {someColours(5), 0}}));
     frmPalExtract->Show();
   }
-  ~PalExtract() override { forms::answerCommonDialogWith({}); }
+  ~Extractor() override { forms::answerCommonDialogWith({}); }
 
-  static void press(const char* button, int times = 1) {
-    for (int i = 0; i < times; ++i) test::press(kForm, button);
-  }
+  static void press(const char* button) { test::press(kForm, button); }
   static QComboBox* box(const char* name) { return control<QComboBox>(kForm, name); }
   static std::string text(const char* name) {
     return control<QLineEdit>(kForm, name)->text().toStdString();
@@ -62,11 +59,8 @@ class PalExtract : public test::WindowTest {
     pick(name);
     press("cmdLoad");
   }
-  void browseDest(const char* button) {
+  static void browseDest(const char* button) {
     test::pressAndThen(kForm, "cmdDestBrowse", [&] { test::press("frmBrowse", button); });
-  }
-  void expectWarning(const std::string& text) {
-    messages.expectLast(1, text, "Warning!", forms::Icon::Critical);
   }
   /// Which of the buttons that come and go can be used.
   static std::string usable() {
@@ -86,11 +80,13 @@ class PalExtract : public test::WindowTest {
     }
   }
 
-  const Bytes sky =
-      model::paletteList({{someColours(1), 25}, {someColours(2), -7}, {someColours(3), 25}});
+  const model::Colours first = someColours(1);
+  const model::Colours second = someColours(2);
+  const model::Colours third = someColours(3);
+  const Bytes sky = model::paletteList({{first, 25}, {second, -7}, {third, 25}});
 };
 
-TEST_F(PalExtract, TheButtonsFollowWhatIsPickedLoadedAndTyped) {
+TEST_F(Extractor, TheButtonsFollowWhatIsPickedLoadedAndTyped) {
   const std::string stepping = "Prev Next ", saving = "Prev Next Save ";
   const std::pair<std::function<void()>, std::string> steps[] = {
       {[&] { type("lstDest", "x"), pick(""); }, ""},
@@ -111,21 +107,22 @@ TEST_F(PalExtract, TheButtonsFollowWhatIsPickedLoadedAndTyped) {
   EXPECT_TRUE(messages.texts().empty());
 }
 
-TEST_F(PalExtract, StepsThroughTheListAndKeepsItsPlaceUntilItIsClosed) {
+TEST_F(Extractor, StepsThroughTheListAndKeepsItsPlaceUntilItIsClosed) {
   for (const bool done : {false, true, true}) {
     EXPECT_EQ(usable() + text("txtNumber") + text("txtIndex"), "");
     load("sky.ksl");
     press("cmdPrev");
-    expectShown("3", "25", someColours(1));
+    expectShown("3", "25", first);
     press("cmdNext");
-    expectShown("3", "-7", someColours(2));
-    press("cmdNext", 2);
-    expectShown("3", "25", someColours(3));
+    expectShown("3", "-7", second);
+    press("cmdNext");
+    press("cmdNext");
+    expectShown("3", "25", third);
     EXPECT_EQ(usable(), "Prev Next ");
     load("two.ksl");  // has no third palette
     expectShown("2", "0", someColours(5));
     load("sky.ksl");
-    expectShown("3", "-7", someColours(2));
+    expectShown("3", "-7", second);
     done ? press("cmdDone") : void(test::window(kForm)->close());
     EXPECT_FALSE(frmPalExtract.isLoaded());
     test::settle();
@@ -133,125 +130,89 @@ TEST_F(PalExtract, StepsThroughTheListAndKeepsItsPlaceUntilItIsClosed) {
   }
 }
 
-TEST_F(PalExtract, ABadListChangesNothing) {
-  const std::string missing = "The palette list file does not exist.";
-  Bytes none = sky, many = sky;
-  none[4] = 0;
-  many[4] = 0, many[5] = 0x80;
-  many.resize(52 + 32768 * 1032);
-  const Bytes cut(sky.begin(), sky.end() - 1);
-  const std::pair<std::string, Bytes> cases[] = {{"head cut", Bytes(51, 1)},
-                                                 {"cut", cut},
-                                                 {"none", none},
-                                                 {"many", many},
-                                                 {"locked", sky},
-                                                 {"gone", sky}};
-  type("lstSource", folder.drive("two.ksl"));  // typing picks no file
-  press("cmdLoad");
-  expectWarning(missing);
+TEST_F(Extractor, ABadListChangesNothing) {
+  const char* invalid = "This file is not a valid palette list.";
+  const char* missing = "The palette list file does not exist.";
+  // The number of palettes in the head, and the size of the file.
+  const std::tuple<const char*, std::uint32_t, std::uintmax_t, const char*> cases[] = {
+      {"head cut", 3, 51, invalid},
+      {"last byte missing", 3, 3147, invalid},
+      {"none", 0, 3148, invalid},
+      {"one too many", 32768, 52 + 32768 * 1032, invalid},
+      {"negative", 0xFFFFFFFF, 3148, invalid},
+      {"unreadable", 3, 3148, invalid},
+      {"out", 3, 3148, missing},
+      {"as many as can be", 32767, 52 + 32767 * 1032, nullptr}};
   load("sky.ksl");
   press("cmdNext");
-  for (const auto& [name, bytes] : cases) {
+  for (const auto& [name, count, size, text] : cases) {
     SCOPED_TRACE(name);
-    folder.write(name, bytes);
+    Bytes list = sky;
+    for (std::size_t i = 0; i < 4; ++i) list[4 + i] = static_cast<std::uint8_t>(count >> (8 * i));
+    list.resize(size);
+    folder.write(name, list);
     pick(name);
     std::optional<test::Limit> noFiles;
-    if (name == "locked") noFiles.emplace(RLIMIT_NOFILE, 0);
-    if (name == "gone") std::filesystem::remove(folder.path(name));
+    if (name == std::string("unreadable")) noFiles.emplace(RLIMIT_NOFILE, 0);
     press("cmdLoad");
     noFiles.reset();
-    expectWarning(name == "gone" ? missing : "This file is not a valid palette list.");
-    EXPECT_EQ(usable(), "Load ");
-    expectShown("3", "-7", someColours(2));
+    if (text) messages.expectLast(1, text, "Warning!", forms::Icon::Critical);
+    EXPECT_EQ(usable(), text ? "Load " : "Prev Next ");
+    expectShown(text ? "3" : "32767", "-7", second);
   }
 }
 
-TEST_F(PalExtract, SavesThePaletteOnShowUnderItsIndex) {
+TEST_F(Extractor, SavesThePaletteOnShowUnderItsIndexOrSaysThatItCannot) {
+  // The list, steps from its first palette, the destination, whether the list's name is added, the
+  // path below the destination, and what is written there.
+  const std::tuple<const char*, int, std::string, bool, std::string, const model::Colours*>
+      cases[] = {{"sky.ksl", 0, "out", false, "\\25.pal", &first},
+                 {"sky.ksl", 2, "out", false, "\\25.pal", &third},
+                 {"sky.ksl", 2, "out", true, "\\sky\\25.pal", &third},
+                 {"name.long", 1, "out", true, "\\name.\\-7.pal", &second},
+                 {"sky.ksl", 0, "missing", false, "\\25.pal", nullptr},
+                 {"sky.ksl", 0, "missing", true, "\\sky\\25.pal", nullptr},
+                 {"sky.ksl", 0, "folders", false, "\\25.pal", nullptr},
+                 {"sky.ksl", 0, "folders", true, "\\sky\\25.pal", nullptr}};
   folder.write("name.long", sky);
-  folder.write("out/12.pal", Bytes(1100, 0xEE));
-  // The list, a step in it, whether into a folder of its own, what is written and how long.
-  const std::tuple<const char*, int, bool, const char*, model::Colours, std::size_t> cases[] = {
-      {"sky.ksl", 0, false, "25.pal", someColours(1), 1048},
-      {"sky.ksl", 2, false, "25.pal", someColours(3), 1048},
-      {"sky.ksl", 2, true, "sky/25.pal", someColours(3), 1048},
-      {"sky.ksl", 1, true, "sky/-7.pal", someColours(2), 1024},
-      {"name.long", 1, true, "name./-7.pal", someColours(2), 1048},
-      {"two.ksl", 0, false, "12.pal", someColours(4), 1100}};
-  type("lstDest", folder.drive("out"));
-  messages.meanwhile = [] { EXPECT_EQ(usable(), "Prev Next "); };
-  for (const auto& [list, steps, add, written, colours, size] : cases) {
-    SCOPED_TRACE(written);
-    // Before any palette has been read there is no head.
-    state.PaletteHeader = std::string("a head \0 of any bytes \xFF", size == 1024 ? 0 : 24);
-    type("lstSource", "");
-    load(list);
-    press("cmdPrev", 2);
-    press("cmdNext", steps);
-    control<QCheckBox>(kForm, "chkAdd")->setChecked(add);
-    press("cmdSave");
-    messages.expectLast(1, "Palette file saved!", "", forms::Icon::None);
-    EXPECT_EQ(usable(), "Prev Next Save ");
-    Bytes expected = model::paletteFile(state.PaletteHeader, colours);
-    expected.resize(size, 0xEE);
-    EXPECT_EQ(readFile(folder.path("out") / written), expected);
-  }
-}
-
-TEST_F(PalExtract, SaysWhatCannotBeWritten) {
   folder.makeFolder("folders/25.pal");
   folder.write("folders/sky", {});
-  load("sky.ksl");
-  const auto expectUnwritable = [&](const std::string& dest, bool add) {
-    type("lstDest", "x");
-    type("lstDest", dest);
+  state.PaletteHeader = std::string("a head \0 of any bytes \xFF", 24);
+  messages.meanwhile = [] { EXPECT_EQ(usable(), "Prev Next "); };
+  for (const auto& [list, steps, dest, add, below, colours] : cases) {
+    SCOPED_TRACE(dest + below);
+    type("lstDest", folder.drive(dest));
+    load(list);
+    for (int i = 0; i < 2; ++i) press("cmdPrev");
+    for (int i = 0; i < steps; ++i) press("cmdNext");
     control<QCheckBox>(kForm, "chkAdd")->setChecked(add);
     press("cmdSave");
-    expectWarning("The palette file can't be written.\n" + dest + (add ? "\\sky" : "") +
-                  "\\25.pal");
     EXPECT_EQ(usable(), "Prev Next Save ");
-  };
-  for (const std::string& dest : {std::string(), std::string("none"), std::string("Z:\\proc"),
-                                  folder.drive("missing"), folder.drive("folders")}) {
-    for (const bool add : {false, true}) expectUnwritable(dest, add);
+    const std::string path = folder.drive(dest) + below;
+    if (colours) {
+      messages.expectLast(1, "Palette file saved!", "", forms::Icon::None);
+      EXPECT_EQ(test::readFile(forms::nativePath(path)),
+                model::paletteFile(state.PaletteHeader, *colours));
+    } else {
+      messages.expectLast(1, "The palette file can't be written.\n" + path, "Warning!",
+                          forms::Icon::Critical);
+    }
   }
-  const test::Limit fullDisk(RLIMIT_FSIZE, 500);
-  expectUnwritable(folder.drive("out"), false);
-  EXPECT_FALSE(folder.exists("missing") || folder.exists("out/25.pal"));
 }
 
-TEST_F(PalExtract, BoxesOfferWhatWasPicked) {
+TEST_F(Extractor, TheBoxesOfferWhatWasPicked) {
   pick("sky.ksl");
   load("two.ksl");
   pickEntry("lstSource");
   press("cmdLoad");
-  EXPECT_EQ(text("txtNumber"), "3");
-  for (const char* button : {"OKButton", "OKButton", "CancelButton"}) {
-    type("lstDest", folder.drive("out"));
-    browseDest(button);
-    EXPECT_EQ(box("lstDest")->currentText().toStdString(), folder.drive("out"));
-    EXPECT_EQ(box("lstDest")->count(), 1);
-  }
+  expectShown("3", "25", first);
+  type("lstDest", folder.drive("out"));
+  for (int i = 0; i < 2; ++i) browseDest("OKButton");
+  EXPECT_EQ(box("lstDest")->count(), 1);
   type("lstDest", "elsewhere");
   pickEntry("lstDest");
   press("cmdSave");
   EXPECT_TRUE(folder.exists("out/25.pal"));
-}
-
-TEST_F(PalExtract, TheFileDialogShowsListsInCapitalsToo) {
-  for (const char* name : {"out/A.KSL", "out/b.ksl", "out/c.pal"}) folder.write(name, sky);
-  state.PalDir = folder.drive("out");
-  test::pressAndThen(kForm, "cmdSourceBrowse", [] {
-    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_TRUE(dialog);
-    EXPECT_EQ(dialog->windowTitle(), "Find KSL files");
-    const auto* list = dialog->findChild<QAbstractItemView*>("listView");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
-    auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-    QTest::keyClicks(name, "A.KSL");
-    QTest::keyClick(name, Qt::Key_Return);
-    if (dialog->isVisible()) dialog->reject();
-  });
-  EXPECT_EQ(box("lstSource")->currentText().toStdString(), folder.drive("out/A.KSL"));
 }
 
 }  // namespace

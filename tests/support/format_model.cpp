@@ -33,8 +33,8 @@ int numberAt(const Bytes& file, std::size_t at) {
 int roundedDifference(int width, int height, int size) {
   const int below = size / height - width;
   const int twiceRest = size % height * 2;
-  if (twiceRest == height) return below % 2 == 0 ? below : below + 1;
-  return twiceRest < height ? below : below + 1;
+  const bool up = twiceRest > height || (twiceRest == height && below % 2 != 0);
+  return up ? below + 1 : below;
 }
 
 }  // namespace
@@ -50,8 +50,8 @@ Colours someColours(int seed) {
 
 Bytes somePixels(int count) {
   Bytes pixels;
-  for (int i = 0; i < count; ++i) {
-    pixels.push_back(static_cast<std::uint8_t>(i * std::int64_t{7} + i / 251 + 1));
+  for (std::int64_t i = 0; i < count; ++i) {
+    pixels.push_back(static_cast<std::uint8_t>(i * 7 + i / 251 + 1));
   }
   return pixels;
 }

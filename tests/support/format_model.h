@@ -25,9 +25,7 @@ Colours someColours(int seed);
 Bytes somePixels(int count);
 
 struct Kestrel {
-  std::int32_t width = 0;
-  std::int32_t height = 0;
-  std::int32_t dataSize = 0;
+  std::int32_t width = 0, height = 0, dataSize = 0;
   Bytes pixels = somePixels(dataSize);
   std::int32_t paletteIndex = 25;
   std::int16_t depth = 8;

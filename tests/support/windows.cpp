@@ -1,13 +1,12 @@
 #include "support/windows.h"
 
-#include <QAction>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
 #include <csignal>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -26,7 +25,7 @@ TempFolder::TempFolder() {
 }
 
 std::string TempFolder::drive(const std::string& name) const {
-  return forms::drivePath(name.empty() ? root_.string() : (root_ / name).string());
+  return forms::drivePath(path(name).string());
 }
 
 void TempFolder::write(const std::string& name, const Bytes& bytes) const {
@@ -41,10 +40,10 @@ Bytes readFile(const std::filesystem::path& path) {
 
 Messages::Messages() {
   forms::answerMessagesWith([this](const forms::Message& message) {
-    said.push_back(message);
+    said_.push_back(message);
     if (meanwhile) meanwhile();
     const bool asks = message.buttons == forms::Buttons::YesNo;
-    if (answers.empty()) return asks ? forms::Answer::No : forms::Answer::OK;
+    if (answers.empty()) answers = {asks ? forms::Answer::No : forms::Answer::OK};
     const forms::Answer answer = answers.front();
     answers.erase(answers.begin());
     return answer;
@@ -53,13 +52,13 @@ Messages::Messages() {
 
 std::vector<std::string> Messages::texts() {
   std::vector<std::string> texts;
-  for (const forms::Message& message : std::exchange(said, {})) texts.push_back(message.text);
+  for (const forms::Message& message : std::exchange(said_, {})) texts.push_back(message.text);
   return texts;
 }
 
 void Messages::expectLast(std::size_t count, const std::string& text, const std::string& title,
                           forms::Icon icon) {
-  const std::vector<forms::Message> heard = std::exchange(said, {});
+  const std::vector<forms::Message> heard = std::exchange(said_, {});
   ASSERT_EQ(heard.size(), count);
   EXPECT_EQ(heard.back().text, text);
   EXPECT_EQ(heard.back().title, title);
@@ -70,19 +69,17 @@ QWidget* window(const char* form) {
   QWidget* found = nullptr;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->objectName() != QLatin1String(form)) continue;
-    found = widget;
-    // An unloaded window stays for a while beside the one that took its place.
-    if (widget->isVisible()) break;
+    if (!found || widget->isVisible()) found = widget;
   }
   return found;
 }
 
-QAction* menuItem(const char* form, const char* name) {
-  return control<QAction>(form, name);
-}
-
 void press(const char* form, const char* button) {
   QTest::mouseClick(control<QPushButton>(form, button), Qt::LeftButton);
+}
+
+void whenShown(std::function<void()> act) {
+  QTimer::singleShot(0, qApp, std::move(act));
 }
 
 void pressAndThen(const char* form, const char* button, std::function<void()> act) {
@@ -119,9 +116,8 @@ Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
 
 ColourTable tableOf(const model::Colours& colours) {
   ColourTable table;
-  std::transform(colours.begin(), colours.end(), table.begin(), [](const model::Colour& c) {
-    return ColourEntry{c.red, c.green, c.blue, c.extra};
-  });
+  auto entry = table.begin();
+  for (const auto& [red, green, blue, extra] : colours) *entry++ = {red, green, blue, extra};
   return table;
 }
 
@@ -190,10 +186,6 @@ void MainWindowTest::select(const std::vector<std::string>& names) {
 void MainWindowTest::preview(const std::string& name) {
   select({name});
   press("frmMain", "cmdOpen");
-}
-
-void MainWindowTest::convert(const char* button) {
-  pressAndThen("frmMain", button, [] { press("frmConvert", "cmdYes"); });
 }
 
 }  // namespace mill::test

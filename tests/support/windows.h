@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QImage>
-#include <QTimer>
 #include <QWidget>
 
 #include <cstdlib>
@@ -37,9 +36,9 @@ class TempFolder {
   std::string drive(const std::string& name = {}) const;
   void write(const std::string& name, const Bytes& bytes) const;
   void makeFolder(const std::string& name) const {
-    std::filesystem::create_directories(root_ / name);
+    std::filesystem::create_directories(path(name));
   }
-  bool exists(const std::string& name) const { return std::filesystem::exists(root_ / name); }
+  bool exists(const std::string& name) const { return std::filesystem::exists(path(name)); }
 
  private:
   std::filesystem::path root_;
@@ -60,16 +59,18 @@ class Messages {
   void expectLast(std::size_t count, const std::string& text, const std::string& title,
                   forms::Icon icon);
 
-  std::vector<forms::Message> said;
   std::vector<forms::Answer> answers;
   /// Called at each message, before it is answered.
   std::function<void()> meanwhile;
+
+ private:
+  std::vector<forms::Message> said_;
 };
 
-/// The visible or hidden window of a form, by its name.
+/// The window of a form, rather a visible one than one that is just being unloaded.
 QWidget* window(const char* form);
 
-/// A control by its name; the test stops where there is none.
+/// A control or menu item by its name; the test stops where there is none.
 template <class W = QWidget>
 W* control(const char* form, const char* name) {
   W* found = window(form) ? window(form)->findChild<W*>(QString::fromUtf8(name)) : nullptr;
@@ -80,21 +81,12 @@ W* control(const char* form, const char* name) {
   return found;
 }
 
-/// A menu item by its name.
-QAction* menuItem(const char* form, const char* name);
-
 /// Presses a button of a form with the mouse.
 void press(const char* form, const char* button);
-
 /// Runs `act` when the next event loop runs, such as that of a window about to be shown modally.
-template <class Act>
-void whenShown(Act act) {
-  QTimer::singleShot(0, qApp, act);
-}
-
+void whenShown(std::function<void()> act);
 /// Presses a button that opens a modal window, and runs `act` in there.
 void pressAndThen(const char* form, const char* button, std::function<void()> act);
-
 /// Lets everything happen that waits in the event queue, deletions included.
 void settle();
 
@@ -147,8 +139,6 @@ class MainWindowTest : public WindowTest {
   void select(const std::vector<std::string>& names);
   /// Selects the name and opens it into the preview.
   void preview(const std::string& name);
-  /// Converts the selection by the button, "Yes" included.
-  void convert(const char* button);
 
   const model::Colours colours = model::someColours(3);
 };
