@@ -172,10 +172,13 @@ class Preview : public Conversion {
 
 TEST_F(Preview, IsFittedToThePictureOrStretchedToTheWindow) {
   add("padded.bmp", 150, 100, 15200);
+  add("narrow.bmp", 61, 40, 61 * 40);
   set("ResizeFit", "True");
   start();
   preview("padded.bmp");
   expectShown(temporary(), {150, 100});
+  preview("narrow.bmp");
+  expectShown(temporary(), {61, 40});
   preview("a.bmp");
   expectShown(temporary(), {40, 24});
   click("chkResize");  // off, which alone changes nothing

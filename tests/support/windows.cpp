@@ -98,9 +98,10 @@ QImage boxWith(const Bytes& bitmap, QSize box, int scale) {
   image.fill(QApplication::palette().color(QPalette::Window));
   for (int y = 0; y < std::min(height * scale, box.height()); ++y) {
     for (int x = 0; x < std::min(width * scale, box.width()); ++x) {
-      // The last row is stored first, and of each colour blue.
-      const int at = 1078 + (height - 1 - y / scale) * rowBytes + x / scale;
-      const auto colour = 54 + std::size_t{4} * bitmap.at(static_cast<std::size_t>(at));
+      // The last row is stored first, and of each colour blue. What isn't there is colour 0.
+      const auto at =
+          static_cast<std::size_t>(1078 + (height - 1 - y / scale) * rowBytes + x / scale);
+      const auto colour = 54 + std::size_t{4} * (at < bitmap.size() ? bitmap[at] : 0);
       image.setPixel(x, y, qRgb(bitmap[colour + 2], bitmap[colour + 1], bitmap[colour]));
     }
   }
