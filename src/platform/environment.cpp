@@ -49,7 +49,7 @@ std::string ownDirectory() {
 }  // namespace
 
 std::string tempDirectory() {
-  if (const std::string given = variable("temp"); !given.empty()) return given;
+  if (std::string given = variable("temp"); !given.empty()) return given;
   for (const char* name : {"TEMP", "TMPDIR"}) {
     const std::string given = variable(name);
     if (!given.empty() && isPrivate(nativePath(given))) return drivePath(given);

@@ -138,7 +138,7 @@ class FormCollection {
   /// At the program's own end no form is left. At a sudden one, as when the screen goes away, the
   /// windows went before, and the forms are left alone.
   ~FormCollection() {
-    for (Entry& entry : entries_) entry.form.release();
+    for (Entry& entry : entries_) static_cast<void>(entry.form.release());
   }
   FormCollection(const FormCollection&) = delete;
   FormCollection& operator=(const FormCollection&) = delete;
