@@ -1,5 +1,7 @@
 #include "platform/list_box.h"
 
+#include <utility>
+
 #include "platform/file_view.h"
 
 namespace forms {
@@ -8,7 +10,7 @@ ListBox::ListBox(Container& parent, const char* name, const Rect& place, Handler
     : Control(parent, name, new FileView(parent.host(), false), place) {
   borrowLabel(parent);
   auto* view = as<FileView>();
-  view->clicked = [this, click] { click(form_); };
+  view->clicked = [this, click = std::move(click)] { click(form_); };
   view->doubleClicked = [] {};
   view->setUniformItemSizes(false);  // few enough to be measured, and long ones can be scrolled
 }
