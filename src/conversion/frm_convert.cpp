@@ -51,6 +51,7 @@ void ConvertForm::cmdYes_Click() {
   Progress1.Refresh();
   Progress2.Refresh();
   state.PictureFileName.clear();
+  forms::dropInput();
   enableButtons(true);
   Hide();
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "platform/bitmap.h"
 #include "platform/form.h"
 #include "platform/picture_box.h"

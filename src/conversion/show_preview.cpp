@@ -6,6 +6,7 @@
 
 #include "conversion/frm_preview_toolbar.h"
 #include "picture/program_state.h"
+#include "picture/write_bitmap.h"
 #include "platform/application.h"
 #include "platform/msg_box.h"
 
@@ -39,6 +40,14 @@ void ShowPreview() {
   frmPreviewToolbar->paint(state.PreviewDC.get(), state.ResizeFit
                                                       ? PixelSize{record.biWidth, rowsOf(record)}
                                                       : frmPreviewToolbar->boxSize());
+}
+
+void renewPreview() {
+  const bool written = WriteBitmap(state.TempPicturePath);
+  if (state.PictureFileName.empty()) return;
+  if (written) return ShowPreview();
+  state.PreviewDC.reset();
+  frmPreviewToolbar->paint(nullptr, {});
 }
 
 }  // namespace mill

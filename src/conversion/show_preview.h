@@ -14,4 +14,8 @@ std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path);
 /// Loads the temporary bitmap and paints it into the preview window.
 void ShowPreview();
 
+/// Writes the open picture to the temporary bitmap and shows it. Where that fails the window is
+/// left empty, since the file holds another picture.
+void renewPreview();
+
 }  // namespace mill

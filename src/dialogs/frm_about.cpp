@@ -4,7 +4,6 @@
 #include "picture/warn.h"
 #include "platform/application.h"
 #include "platform/environment.h"
-#include "platform/msg_box.h"
 #include "platform/paths.h"
 
 namespace mill {
@@ -23,10 +22,7 @@ void AboutForm::Form_Load() {
 
 void AboutForm::cmdReadme_Click() {
   const std::string readMe = forms::join(forms::App.Path(), "readme.txt");
-  if (forms::openWithViewer(readMe)) return;
-  forms::MsgBox({.text = "The read-me file can't be opened.",
-                 .title = kWarning,
-                 .icon = forms::Icon::Critical});
+  if (!forms::openWithViewer(readMe)) warn("The read-me file can't be opened.");
 }
 
 }  // namespace mill

@@ -9,9 +9,8 @@
 #include "palette/frm_pal_toolbar.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
-#include "picture/write_bitmap.h"
+#include "picture/temporary_files.h"
 #include "platform/application.h"
-#include "platform/environment.h"
 #include "platform/paths.h"
 
 namespace mill {
@@ -20,9 +19,8 @@ void MainForm::cmdOpen_Click() {
   if (!state.ShowPrev) return;
   const forms::Hourglass hourglass;
   OpenPicture(forms::join(filSource.Path(), filSource.FileName()));
-  state.TempPicturePath = forms::join(forms::tempDirectory(), "temp.bmp");
-  WriteBitmap(state.TempPicturePath);
-  if (!state.PictureFileName.empty()) ShowPreview();
+  state.TempPicturePath = tempPicturePath();
+  renewPreview();
   enableOpen(false);
   enableInfo(true);
   if (state.IsStandardBitmap) enableConvert(false);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 #include "platform/controls.h"
 #include "platform/form.h"
 

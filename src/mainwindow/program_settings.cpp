@@ -6,7 +6,6 @@
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/application.h"
-#include "platform/msg_box.h"
 #include "platform/paths.h"
 #include "platform/settings.h"
 
@@ -62,11 +61,7 @@ void writeSettings() {
   for (const FlagSetting& flag : kFlags) {
     saved &= forms::SaveFlag(app, kSection, flag.key, state.*flag.value);
   }
-  if (!saved) {
-    forms::MsgBox({.text = "The settings can't be saved.\n" + forms::settingsFile(app),
-                   .title = kWarning,
-                   .icon = forms::Icon::Critical});
-  }
+  if (!saved) warn("The settings can't be saved.\n" + forms::settingsFile(app));
 }
 
 }  // namespace mill

@@ -2,10 +2,11 @@
 
 #include <optional>
 #include <unordered_map>
+#include <utility>
 
 #include "palette/load_palette.h"
 #include "picture/program_state.h"
-#include "platform/environment.h"
+#include "picture/temporary_files.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 
@@ -56,7 +57,7 @@ std::vector<std::string> matchingPalettes() {
 
 void settlePalette() {
   if (state.PictureRecord.PaletteIndex == 0) {
-    state.CurrentPaletteFile = forms::join(forms::tempDirectory(), "bmp.pal");
+    state.CurrentPaletteFile = tempPalettePath();
     namesOfRun.reset();
     return;
   }

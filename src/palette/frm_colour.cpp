@@ -6,7 +6,6 @@
 #include "palette/load_palette.h"
 #include "palette/show_colours.h"
 #include "picture/program_state.h"
-#include "picture/write_bitmap.h"
 #include "platform/number_text.h"
 #include "platform/paths.h"
 
@@ -134,10 +133,7 @@ void ColourForm::cmdOK_Click() {
   if (hasFile_) {
     state.CurrentPaletteFile = forms::join(state.BrowseResult, state.FileResult);
     LoadPalette();
-    if (!state.PictureFileName.empty() && state.ShowPrev) {
-      WriteBitmap(state.TempPicturePath);
-      ShowPreview();
-    }
+    if (!state.PictureFileName.empty() && state.ShowPrev) renewPreview();
   }
   Unload();
 }

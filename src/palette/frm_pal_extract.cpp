@@ -11,7 +11,6 @@
 #include "picture/warn.h"
 #include "platform/files.h"
 #include "platform/msg_box.h"
-#include "platform/number_text.h"
 #include "platform/paths.h"
 
 namespace mill {
@@ -103,7 +102,7 @@ void PalExtractForm::cmdPrev_Click() {
 }
 
 void PalExtractForm::cmdNext_Click() {
-  if (forms::numberOf(txtNumber.Text(), 0, kListLimit) - 1 <= ListPosition) return;
+  if (ListPosition + 1 >= std::ssize(ListPalettes)) return;
   ++ListPosition;
   showPalette();
 }

@@ -3,7 +3,6 @@
 #include "conversion/show_preview.h"
 #include "palette/load_palette.h"
 #include "picture/program_state.h"
-#include "picture/write_bitmap.h"
 
 namespace mill {
 
@@ -25,8 +24,7 @@ void PalSelectForm::cmdPrev_Click() {
   const std::string saved = state.CurrentPaletteFile;
   state.CurrentPaletteFile = lstPalette.Text();
   LoadPalette();
-  WriteBitmap(state.TempPicturePath);
-  ShowPreview();
+  renewPreview();
   // Only the path goes back: the search loads the chosen palette when the dialog has ended.
   state.CurrentPaletteFile = saved;
 }

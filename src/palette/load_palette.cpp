@@ -55,8 +55,8 @@ void LoadPalette() {
   if (read && state.ShowPal && updateSwatches) updateSwatches();
 }
 
-void SavePalette() {
-  writePaletteFile(state.CurrentPaletteFile, state.PaletteTable);
+bool SavePalette() {
+  return writePaletteFile(state.CurrentPaletteFile, state.PaletteTable);
 }
 
 }  // namespace mill

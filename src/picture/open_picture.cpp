@@ -11,9 +11,9 @@
 #include "picture/kestrel_bitmap.h"
 #include "picture/program_state.h"
 #include "picture/standard_bitmap.h"
+#include "picture/temporary_files.h"
 #include "picture/warn.h"
 #include "platform/application.h"
-#include "platform/environment.h"
 #include "platform/files.h"
 #include "platform/msg_box.h"
 #include "platform/paths.h"
@@ -67,16 +67,17 @@ Fault readKestrel(PictureFile& file, const Magic& magic) {
   Fault fault = file.readHead(magic, bytes, Fault::PictureDamaged);
   if (fault == Fault::None) fault = checkKestrelHead(bytes, file.size(), head);
   if (fault != Fault::None) return fault;
-  fault = readKestrelBitmap(head, file.rest(), state.PictureRecord, openingProgress());
-  return fault;
+  return readKestrelBitmap(head, file.rest(), state.PictureRecord, openingProgress());
 }
 
 /// The picture's own colours become the current palette, and stand in a palette file like any
-/// other.
-void takeColours() {
+/// other. False where they couldn't be written there.
+bool takeColours() {
   state.PaletteTable = state.PictureRecord.Colours;
-  state.CurrentPaletteFile = forms::join(forms::tempDirectory(), "bmp.pal");
-  SavePalette();
+  state.CurrentPaletteFile = tempPalettePath();
+  if (SavePalette()) return true;
+  if (state.ShowPal && updateSwatches) updateSwatches();
+  return false;
 }
 
 Fault readStandard(PictureFile& file, const Magic& magic) {
@@ -85,8 +86,7 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
   Fault fault = file.readHead(magic, bytes, Fault::WrongShape);
   if (fault == Fault::None) fault = checkStandardHead(bytes, file.size(), header);
   if (fault != Fault::None) return fault;
-  fault = readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
-  return fault;
+  return readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
 }
 
 }  // namespace
@@ -125,15 +125,16 @@ void OpenPicture(const std::string& path) {
   }
   file.reset();
   state.IsStandardBitmap = state.RecordIsStandard = standard;
-  if (standard) takeColours();
+  // Without a file of their own they are in use all the same; what that file holds are others.
+  const bool loadable = !standard || takeColours();
 
   if (!isConverting() && state.ResizeFit && fitPreview) {
     fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
   }
   state.PictureFileName = forms::fileNameOf(path);
   state.PictureSourceFile = path;
-  state.TempPicturePath = forms::join(forms::tempDirectory(), "temp.bmp");
-  if (state.AutoPal) FindPalette();
+  state.TempPicturePath = tempPicturePath();
+  if (state.AutoPal && loadable) FindPalette();
 }
 
 }  // namespace mill

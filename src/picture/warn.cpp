@@ -4,14 +4,16 @@
 
 namespace mill {
 
+void warn(const std::string& text) {
+  forms::MsgBox({.text = text, .title = kWarning, .icon = forms::Icon::Critical});
+}
+
 void warn(Fault fault, const std::string& path) {
   std::string text(message(fault));
   if (!path.empty()) text += "\n" + path;
   // One directory for both is a slip of the user's; the rest are failures.
-  const bool slip = fault == Fault::SameDirectory;
-  forms::MsgBox({.text = text,
-                 .title = kWarning,
-                 .icon = slip ? forms::Icon::Information : forms::Icon::Critical});
+  if (fault != Fault::SameDirectory) return warn(text);
+  forms::MsgBox({.text = text, .title = kWarning, .icon = forms::Icon::Information});
 }
 
 }  // namespace mill

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFont>
 #include <QProxyStyle>
-#include <QStyleFactory>
 
 #include "platform/paths.h"
 #include "platform/shell.h"
@@ -69,6 +68,10 @@ Desktop::Desktop(char* programName) {
 Desktop::~Desktop() {
   while (Forms.Count() > 0) Forms[Forms.Count() - 1].Unload();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void dropInput() {
+  QCoreApplication::processEvents();
 }
 
 std::string Application::Path() const {

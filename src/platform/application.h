@@ -63,6 +63,10 @@ class ScreenInfo {
 
 inline ScreenInfo Screen;
 
+/// Drops what was clicked and typed while the program was busy with a modal window open, which
+/// keeps it from the others.
+void dropInput();
+
 /// Shows the hourglass on the active form as long as it lives.
 class Hourglass {
  public:

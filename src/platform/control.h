@@ -11,20 +11,25 @@ namespace forms {
 
 /// The method of a form that answers an event of one of its controls, written as
 /// `&ConvertForm::cmdYes_Click`. The default answers nothing.
-class Handler {
+template <class... Args>
+class BasicHandler {
  public:
-  Handler() = default;
+  BasicHandler() = default;
   template <class F>
-  Handler(void (F::*method)())
-      : call_([method](Form& form) { (static_cast<F&>(form).*method)(); }) {}
+  BasicHandler(void (F::*method)(Args...))
+      : call_([method](Form& form, Args... args) { (static_cast<F&>(form).*method)(args...); }) {}
 
-  void operator()(Form& form) const {
-    if (call_) call_(form);
+  void operator()(Form& form, Args... args) const {
+    if (call_) call_(form, args...);
   }
 
  private:
-  std::function<void(Form&)> call_;
+  std::function<void(Form&, Args...)> call_;
 };
+
+using Handler = BasicHandler<>;
+/// For an event of one control of many, by its index.
+using IndexHandler = BasicHandler<int>;
 
 /// What a control is at the start beyond its caption and place.
 enum Trait : unsigned {

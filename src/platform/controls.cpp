@@ -53,6 +53,8 @@ void Control::borrowLabel(Container& parent) {
   widget_->setAccessibleName(shown(parent.takeLabel()));
 }
 
+namespace {
+
 /// A label that draws its text itself, since a path has to wrap where no word ends.
 class LabelWidget final : public QLabel {
  public:
@@ -132,25 +134,6 @@ class LabelWidget final : public QLabel {
   QColor backColour_;
 };
 
-Label::Label(Container& parent, const char* name, const char* caption, const Rect& place,
-             LabelStyle style, const Lettering& lettering)
-    : Control(parent, name, new LabelWidget(parent.host(), style, lettering), place) {
-  parent.lendLabel(caption);
-  setCaption(caption);
-}
-
-std::string Label::Caption() const {
-  return bytesOf(as<LabelWidget>()->text());
-}
-
-void Label::setCaption(const std::string& caption) {
-  as<LabelWidget>()->showText(shown(caption));
-}
-
-void Label::setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
-  as<LabelWidget>()->setBackColour(QColor(red, green, blue));
-}
-
 /// A group box that tells when it is clicked.
 class FrameWidget final : public QGroupBox {
  public:
@@ -169,6 +152,27 @@ class FrameWidget final : public QGroupBox {
  private:
   bool pressed_ = false;
 };
+
+}  // namespace
+
+Label::Label(Container& parent, const char* name, const char* caption, const Rect& place,
+             LabelStyle style, const Lettering& lettering)
+    : Control(parent, name, new LabelWidget(parent.host(), style, lettering), place) {
+  parent.lendLabel(caption);
+  setCaption(caption);
+}
+
+std::string Label::Caption() const {
+  return bytesOf(as<LabelWidget>()->text());
+}
+
+void Label::setCaption(const std::string& caption) {
+  as<LabelWidget>()->showText(shown(caption));
+}
+
+void Label::setBackColor(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
+  as<LabelWidget>()->setBackColour(QColor(red, green, blue));
+}
 
 Frame::Frame(Container& parent, const char* name, const char* caption, const Rect& place,
              Handler click)

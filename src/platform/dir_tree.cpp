@@ -21,6 +21,14 @@ QTreeWidgetItem* makeItem(const std::string& name) {
   return item;
 }
 
+std::string pathOf(const QTreeWidgetItem* item) {
+  std::string path = bytesOf(item->text(0));
+  while ((item = item->parent())) path = join(bytesOf(item->text(0)), path);
+  // The root item is the drive itself, "Z:\".
+  if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
+  return path;
+}
+
 }  // namespace
 
 std::string parentOf(const std::string& path) {
@@ -49,13 +57,7 @@ DirTree::DirTree(QWidget* parent) : QTreeWidget(parent) {
 }
 
 std::string DirTree::path() const {
-  const QTreeWidgetItem* item = currentItem();
-  if (!item) return {};
-  std::string path = bytesOf(item->text(0));
-  while ((item = item->parent())) path = join(bytesOf(item->text(0)), path);
-  // The root item is the drive itself, "Z:\".
-  if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
-  return path;
+  return currentItem() ? pathOf(currentItem()) : std::string();
 }
 
 void DirTree::keyPressEvent(QKeyEvent* event) {
@@ -106,11 +108,7 @@ void DirTree::open(QTreeWidgetItem* item) {
 
 void DirTree::fill(QTreeWidgetItem* item) {
   qDeleteAll(item->takeChildren());
-  std::string path = bytesOf(item->text(0));
-  for (auto* above = item->parent(); above; above = above->parent()) {
-    path = join(bytesOf(above->text(0)), path);
-  }
-  std::vector<std::string> names = directoriesIn(path);
+  std::vector<std::string> names = directoriesIn(pathOf(item));
   std::sort(names.begin(), names.end());
   QList<QTreeWidgetItem*> children;
   for (const std::string& name : names) children.append(makeItem(name));

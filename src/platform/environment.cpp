@@ -29,7 +29,10 @@ bool isPrivate(const std::filesystem::path& directory) {
 /// A directory that is new to everybody, for the rest of the run.
 std::string freshDirectory() {
   static const std::string fresh = [] {
-    std::string pattern = (std::filesystem::temp_directory_path() / "raster-mill-XXXXXX").string();
+    std::error_code error;
+    std::filesystem::path base = std::filesystem::temp_directory_path(error);
+    if (error) base = "/tmp";
+    std::string pattern = (base / "raster-mill-XXXXXX").string();
     return std::string(::mkdtemp(pattern.data()) ? pattern : "");
   }();
   return fresh;

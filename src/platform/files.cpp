@@ -197,7 +197,8 @@ bool OutputFile::write(std::span<const std::uint8_t> bytes) {
 bool OutputFile::close() {
   const int handle = std::exchange(handle_, -1);
   if (::close(handle) == 0) return true;
-  if (oldSize_ < 0) ::unlink(path_.c_str());
+  const int undone = oldSize_ < 0 ? ::unlink(path_.c_str()) : ::truncate(path_.c_str(), oldSize_);
+  static_cast<void>(undone);  // the failure itself is what the user hears of
   return false;
 }
 

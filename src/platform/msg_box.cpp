@@ -1,10 +1,8 @@
 #include "platform/msg_box.h"
 
 #include <QMessageBox>
-#include <QPushButton>
 
 #include "platform/application.h"
-#include "platform/shell.h"
 #include "platform/text.h"
 
 namespace forms {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QEventLoop>
-#include <QPointer>
 #include <QPushButton>
 #include <QWidget>
 

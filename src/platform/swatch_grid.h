@@ -6,22 +6,6 @@
 
 namespace forms {
 
-/// The method of a form that answers a click on one swatch, by its index.
-class IndexHandler {
- public:
-  IndexHandler() = default;
-  template <class F>
-  IndexHandler(void (F::*method)(int))
-      : call_([method](Form& form, int index) { (static_cast<F&>(form).*method)(index); }) {}
-
-  void operator()(Form& form, int index) const {
-    if (call_) call_(form, index);
-  }
-
- private:
-  std::function<void(Form&, int)> call_;
-};
-
 /// A palette as 16 × 16 swatches, row by row, named `name(0)` to `name(255)`. Neighbours share the
 /// line between them. The colours of all swatches together cost one repaint.
 class SwatchGrid : public Control {

@@ -234,6 +234,18 @@ TEST_F(Preview, AFileThatCannotBeLoadedLeavesItEmpty) {
   expectShown(temporary(), {80, 48}, 2);
 }
 
+TEST_F(Preview, ABitmapThatCannotBeWrittenLeavesItEmptyToo) {
+  add("b.bmp", 40, 24, 960);
+  start();
+  const QImage empty = test::painted(box());
+  preview("a.bmp");
+  const test::Limit fullDisk(RLIMIT_FSIZE, 100);
+  preview("b.bmp");
+  const std::string text = "The file can't be written.\n" + state.TempPicturePath;
+  messages.expectLast(1, text, "Warning!", forms::Icon::Critical);
+  EXPECT_TRUE(test::painted(box()) == empty);
+}
+
 /// What a bar shows, one value after the other, without repeats.
 struct Bar {
   std::vector<std::int32_t> values;

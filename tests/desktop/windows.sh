@@ -73,7 +73,8 @@ prepare() {
     echo "desktop: $made holds other things than an earlier tour" >&2
     exit 1
   }
-  rm -rf "$pictures" "$converted" "$palettes" "$made/start" "$made"/*.png
+  touch "$made/program.log"  # an earlier tour, from now on
+  rm -rf "$pictures" "$converted" "$palettes" "$made"/*.png
   "$bin/make-samples" samples "$made"
 }
 

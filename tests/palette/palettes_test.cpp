@@ -130,7 +130,7 @@ TEST_F(Palettes, LoadTakesTheEntriesThatAreThereAndSaveKeepsATail) {
     // The colours stand behind the head that was read last, whatever its length.
     folder.write("long", Bytes(1100, 0xEE));
     state.CurrentPaletteFile = folder.drive("long");
-    SavePalette();
+    EXPECT_TRUE(SavePalette());
     Bytes saved = paletteFile(entries < 0 ? "old" : kHead, expected);
     saved.resize(1100, 0xEE);
     EXPECT_EQ(readFile(folder.path("long")), saved);

@@ -172,6 +172,19 @@ TEST_F(BitmapsTest, AStandardBitmapIsOpenedAfterYesAndComesBackAsItWas) {
   }
 }
 
+TEST_F(BitmapsTest, ColoursThatCannotBeStoredAreInUseAllTheSame) {
+  folder.write("bmp.pal", model::paletteFile("24 bytes of some header.", someColours(9)));
+  folder.write("in.bmp", standard);
+  state.AutoPal = true;
+  messages.answers = {Answer::Yes};
+  const test::Limit fullDisk(RLIMIT_FSIZE, 100);
+  OpenPicture(folder.drive("in.bmp"));
+  const std::string text = "The palette file can't be written.\n" + state.CurrentPaletteFile;
+  messages.expectLast(2, text, "Warning!", Icon::Critical);
+  EXPECT_EQ(state.PictureFileName, "in.bmp");
+  EXPECT_EQ(state.PaletteTable, test::tableOf(someColours(1)));
+}
+
 TEST_F(BitmapsTest, WhatIsRefusedGetsOneMessageAndLeavesTheStateAsItWas) {
   struct Case {
     const char* name;

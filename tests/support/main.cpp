@@ -7,7 +7,7 @@
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   const mill::test::TempFolder home;
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
   for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR", "temp"}) {
     ::setenv(name, home.path().c_str(), 1);
   }
