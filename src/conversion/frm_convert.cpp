@@ -20,10 +20,6 @@ ConvertForm::ConvertForm()
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {}
 
-ConvertForm::~ConvertForm() {
-  if (conversionProgress == this) conversionProgress = nullptr;
-}
-
 void ConvertForm::Form_Load() {
   Progress1.setValue(0);
   Progress2.setValue(0);

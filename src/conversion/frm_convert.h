@@ -17,7 +17,6 @@ namespace mill {
 class ConvertForm final : public forms::Form, private ConversionProgress {
  public:
   ConvertForm();
-  ~ConvertForm() override;
 
   /// Where the selected files are, and where the bitmaps go. The main window answers both, at the
   /// moment they are asked.
@@ -47,6 +46,7 @@ class ConvertForm final : public forms::Form, private ConversionProgress {
   };
 
   void Form_Load() override;
+  void Form_Unload() override { conversionProgress = nullptr; }
   void cmdYes_Click();
   void cmdNo_Click() { Hide(); }
 

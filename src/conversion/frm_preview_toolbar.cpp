@@ -15,17 +15,16 @@ PreviewForm::PreviewForm()
             .BorderStyle = forms::Border::SizableToolWindow,
             .Client = {4575, 3495}}) {}
 
-PreviewForm::~PreviewForm() {
-  // An unloaded window outlives its successor's loading.
-  if (!frmPreviewToolbar.isLoaded()) fitPreview = {};
-}
-
 void PreviewForm::Form_Load() {
   fitPreview = [this](std::int32_t width, std::int32_t height) {
     // A bitmap whose rows run from the top has a negative height. 180 and 420 are the frame.
     setSize(double{forms::kTwipsPerPixel} * width + 180,
             double{forms::kTwipsPerPixel} * std::abs(static_cast<double>(height)) + 420);
   };
+}
+
+void PreviewForm::Form_Unload() {
+  fitPreview = {};
 }
 
 void PreviewForm::Form_Resize() {

@@ -16,7 +16,6 @@ struct PixelSize {
 class PreviewForm final : public forms::Form {
  public:
   PreviewForm();
-  ~PreviewForm() override;
 
   /// The size of the picture box.
   PixelSize boxSize() const;
@@ -25,6 +24,7 @@ class PreviewForm final : public forms::Form {
 
  private:
   void Form_Load() override;
+  void Form_Unload() override;
   void Form_Resize() override;
 
   forms::PictureBox Picture1{*this, "Picture1", {0, 0, 4575, 3495}};

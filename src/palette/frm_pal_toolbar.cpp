@@ -13,13 +13,12 @@ PalToolbarForm::PalToolbarForm()
             .BorderStyle = forms::Border::FixedToolWindow,
             .Client = {1920, 1935}}) {}
 
-PalToolbarForm::~PalToolbarForm() {
-  // An unloaded window outlives its successor's loading.
-  if (!frmPalToolbar.isLoaded()) updateSwatches = {};
-}
-
 void PalToolbarForm::Form_Load() {
   updateSwatches = [this] { update(); };
+}
+
+void PalToolbarForm::Form_Unload() {
+  updateSwatches = {};
 }
 
 void PalToolbarForm::update() {

@@ -10,12 +10,12 @@ namespace mill {
 class PalToolbarForm final : public forms::Form {
  public:
   PalToolbarForm();
-  ~PalToolbarForm() override;
 
   void update();
 
  private:
   void Form_Load() override;
+  void Form_Unload() override;
   void Form_Activate() override { update(); }
 
   forms::SwatchGrid palette1{*this, "palette1", 0, 0, 120};
