@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <utility>
 
 #include "conversion/frm_preview_toolbar.h"
 #include "picture/program_state.h"
+#include "picture/temporary_files.h"
 #include "picture/write_bitmap.h"
 #include "platform/application.h"
 #include "platform/msg_box.h"
@@ -32,6 +34,9 @@ std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path) {
 }
 
 void ShowPreview() {
+  // Resizing the window while it has a message open brings no further ones.
+  static bool showing = false;
+  if (state.TempPicturePath.empty() || std::exchange(showing, true)) return;
   const forms::Hourglass hourglass;
   frmPreviewToolbar->paint(nullptr, {});
   state.PreviewDC.reset();
@@ -40,12 +45,15 @@ void ShowPreview() {
   frmPreviewToolbar->paint(state.PreviewDC.get(), state.ResizeFit
                                                       ? PixelSize{record.biWidth, rowsOf(record)}
                                                       : frmPreviewToolbar->boxSize());
+  showing = false;
 }
 
 void renewPreview() {
+  state.TempPicturePath = tempPicturePath();
   const bool written = WriteBitmap(state.TempPicturePath);
   if (state.PictureFileName.empty()) return;
   if (written) return ShowPreview();
+  state.TempPicturePath.clear();
   state.PreviewDC.reset();
   frmPreviewToolbar->paint(nullptr, {});
 }

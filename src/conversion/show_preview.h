@@ -15,7 +15,7 @@ std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path);
 void ShowPreview();
 
 /// Writes the open picture to the temporary bitmap and shows it. Where that fails the window is
-/// left empty, since the file holds another picture.
+/// left empty, and so is `TempPicturePath`, since the file holds another picture.
 void renewPreview();
 
 }  // namespace mill

@@ -9,7 +9,6 @@
 #include "palette/frm_pal_toolbar.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
-#include "picture/temporary_files.h"
 #include "platform/application.h"
 #include "platform/paths.h"
 
@@ -19,7 +18,6 @@ void MainForm::cmdOpen_Click() {
   if (!state.ShowPrev) return;
   const forms::Hourglass hourglass;
   OpenPicture(forms::join(filSource.Path(), filSource.FileName()));
-  state.TempPicturePath = tempPicturePath();
   renewPreview();
   enableOpen(false);
   enableInfo(true);

@@ -220,6 +220,7 @@ TEST_F(Preview, AFileThatCannotBeLoadedLeavesItEmpty) {
   std::filesystem::remove(folder.path("temp.bmp"));
   messages.meanwhile = [] {
     EXPECT_EQ(forms::Screen.ActiveForm()->MousePointer(), forms::vbHourglass);
+    for (const int height : {50, 49}) resizeTo({80, height});  // brings no second message
   };
   resizeTo({80, 49});
   messages.expectLast(1, "error loading bitmap.", "", forms::Icon::None);
@@ -241,9 +242,12 @@ TEST_F(Preview, ABitmapThatCannotBeWrittenLeavesItEmptyToo) {
   preview("a.bmp");
   const test::Limit fullDisk(RLIMIT_FSIZE, 100);
   preview("b.bmp");
-  const std::string text = "The file can't be written.\n" + state.TempPicturePath;
+  const std::string text = "The file can't be written.\n" + folder.path().string() + "\\temp.bmp";
   messages.expectLast(1, text, "Warning!", forms::Icon::Critical);
   EXPECT_TRUE(test::painted(box()) == empty);
+  for (const QSize size : {QSize(60, 40), test::window("frmPreviewToolbar")->size()})
+    resizeTo(size);
+  EXPECT_TRUE(test::painted(box()).copy(0, 0, 60, 40) == empty.copy(0, 0, 60, 40));
 }
 
 /// What a bar shows, one value after the other, without repeats.
