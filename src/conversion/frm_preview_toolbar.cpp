@@ -1,6 +1,7 @@
 #include "conversion/frm_preview_toolbar.h"
 
-#include <cmath>
+#include <cstdint>
+#include <cstdlib>
 
 #include "conversion/show_preview.h"
 #include "picture/open_picture.h"
@@ -17,9 +18,8 @@ PreviewForm::PreviewForm()
 
 void PreviewForm::Form_Load() {
   fitPreview = [this](std::int32_t width, std::int32_t height) {
-    // A bitmap whose rows run from the top has a negative height. 180 and 420 are the frame.
-    setSize(double{forms::kTwipsPerPixel} * width + 180,
-            double{forms::kTwipsPerPixel} * std::abs(static_cast<double>(height)) + 420);
+    // A bitmap whose rows run from the top has a negative height.
+    setClientSize(width, std::abs(std::int64_t{height}));
   };
 }
 

@@ -33,15 +33,17 @@ struct ProgramState {
   /// The 24 bytes at the head of the palette file last read; empty before the first one.
   std::string PaletteHeader;
 
-  std::string TempPicturePath;  ///< where the preview's bitmap is written
+  /// Where the preview's bitmap has been written; empty where that failed.
+  std::string TempPicturePath;
   /// File name of the open picture, without directory; empty when none is open.
   std::string PictureFileName;
   /// Path of the file that `PictureRecord` was read from, which no output may land on; unlike the
   /// name it stays after a conversion.
   std::string PictureSourceFile;
+  /// Whether the open picture is a standard bitmap; cleared, too, by a file of no known kind and by
+  /// a standard bitmap that the user declines.
   bool IsStandardBitmap = false;
-  /// Whether `PictureRecord` came from a standard bitmap. The flag above tells the same until a
-  /// file is refused, which changes it while the record stays.
+  /// Whether `PictureRecord` came from a standard bitmap, whatever has been refused since.
   bool RecordIsStandard = false;
 
   /// The bitmap that the preview shows; null before the first one and after a failed load.

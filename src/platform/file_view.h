@@ -24,8 +24,8 @@ class NameModel final : public QAbstractListModel {
   std::vector<std::string> names_;
 };
 
-/// The list behind a file list box. It tells gestures apart, so that a drag over a hundred names or
-/// Ctrl+A is one click, and a key that changes nothing is none.
+/// The list behind list boxes, of files and of other texts. It tells gestures apart, so that a drag
+/// over a hundred names or Ctrl+A is one click, and a key that changes nothing is none.
 class FileView final : public QListView {
  public:
   FileView(QWidget* parent, bool extended);

@@ -42,14 +42,6 @@ QIcon programIcon() {
   return icon;
 }
 
-/// What a window's frame counts for in its height and width, in twips.
-constexpr Size kFrame = {180, 420};
-
-/// No window becomes larger than the screen.
-int clientPixels(double twips, int screen) {
-  return static_cast<int>(std::clamp(twips / kTwipsPerPixel, 1.0, static_cast<double>(screen)));
-}
-
 /// Holds an unloaded form until the event loop deletes it.
 class Grave final : public QObject {
  public:
@@ -95,10 +87,12 @@ bool Form::Visible() const {
   return shell_->isVisible();
 }
 
-void Form::setSize(double width, double height) {
+void Form::setClientSize(std::int64_t width, std::int64_t height) {
   const QSize screen = shell_->screen()->virtualSize();
-  shell_->resize(clientPixels(width - kFrame.Width, screen.width()),
-                 clientPixels(height - kFrame.Height, screen.height()));
+  const auto within = [](std::int64_t size, int limit) {
+    return static_cast<int>(std::clamp<std::int64_t>(size, 1, limit));
+  };
+  shell_->resize(within(width, screen.width()), within(height, screen.height()));
 }
 
 int Form::ScaleHeight() const {

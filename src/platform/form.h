@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -82,8 +83,8 @@ class Form : public Container {
   const std::string& Caption() const { return caption_; }
   void setCaption(const std::string& caption);
   bool Visible() const;
-  /// The size of the whole window in twips, in which the frame counts as 180 × 420.
-  void setSize(double width, double height);
+  /// Gives the client area this size in pixels, but none that is larger than the screen.
+  void setClientSize(std::int64_t width, std::int64_t height);
   /// The client area in twips.
   int ScaleHeight() const;
   int ScaleWidth() const;

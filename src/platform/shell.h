@@ -45,8 +45,8 @@ class Shell final : public QWidget {
 
 /// What all forms have in common about input: Enter and Escape go to the buttons that have these
 /// roles, and to nothing else, but that a button with the focus takes the Enter that another one
-/// would get; and a form that has been hidden takes no input that was meant for it
-/// before, such as the second half of a double click on its button.
+/// would get; and a form that has been hidden takes no input that was meant for it before, such as
+/// the second half of a double click on its button.
 class FormInput final : public QObject {
  public:
   bool eventFilter(QObject* receiver, QEvent* event) override;
