@@ -6,9 +6,9 @@
 #include <cstring>
 #include <vector>
 
-#include "picture/kestrel_bitmap.h"
-#include "picture/little_endian.h"
-#include "picture/standard_bitmap.h"
+#include "formats/kestrel_bitmap.h"
+#include "formats/little_endian.h"
+#include "formats/standard_bitmap.h"
 
 namespace {
 

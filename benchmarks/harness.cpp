@@ -11,10 +11,10 @@
 
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
-#include "platform/paths.h"
-#include "platform/progress_bar.h"
-#include "platform/settings.h"
+#include "platform/forms/application.h"
+#include "platform/forms/progress_bar.h"
+#include "platform/system/paths.h"
+#include "platform/system/settings.h"
 
 namespace mill::bench {
 

@@ -5,8 +5,8 @@
 
 #include "batches.h"
 #include "harness.h"
-#include "platform/application.h"
-#include "platform/msg_box.h"
+#include "platform/forms/application.h"
+#include "platform/forms/msg_box.h"
 #include "windows.h"
 
 int main(int argc, char** argv) {

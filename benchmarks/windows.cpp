@@ -12,12 +12,12 @@
 
 #include "harness.h"
 #include "mainwindow/frm_main.h"
-#include "palette/find_palette.h"
 #include "palette/frm_pal_extract.h"
 #include "palette/frm_pal_toolbar.h"
+#include "picture/find_palette.h"
 #include "picture/program_state.h"
 #include "plain_loop.h"
-#include "platform/common_dialog.h"
+#include "platform/forms/common_dialog.h"
 
 namespace mill::bench {
 

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "picture/byte_stream.h"
+#include "formats/byte_stream.h"
 
 namespace fuzz {
 

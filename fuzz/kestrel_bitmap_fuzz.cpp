@@ -1,8 +1,8 @@
 // Any bytes as a Kestrel Bitmap: what the check lets through is read whole and written whole.
 
+#include "formats/kestrel_bitmap.h"
+#include "formats/standard_bitmap.h"
 #include "fuzz.h"
-#include "picture/kestrel_bitmap.h"
-#include "picture/standard_bitmap.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mill;

@@ -1,7 +1,7 @@
 // Any bytes as a palette file: what is there comes back in its place, what isn't is 0.
 
+#include "formats/palette_file.h"
 #include "fuzz.h"
-#include "palette/palette_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mill;

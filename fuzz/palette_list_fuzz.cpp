@@ -1,8 +1,8 @@
 // Any bytes as a palette list: what the check lets through is read whole, colour by colour.
 
+#include "formats/little_endian.h"
+#include "formats/palette_list.h"
 #include "fuzz.h"
-#include "palette/palette_list.h"
-#include "picture/little_endian.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mill;

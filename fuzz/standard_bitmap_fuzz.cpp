@@ -1,7 +1,7 @@
 // Any bytes as a standard bitmap: what the check lets through is written back as it was.
 
+#include "formats/standard_bitmap.h"
 #include "fuzz.h"
-#include "picture/standard_bitmap.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mill;

@@ -1,5 +1,5 @@
 #include "mainwindow/frm_main.h"
-#include "platform/application.h"
+#include "platform/forms/application.h"
 
 int main(int, char** argv) {
   const forms::Desktop desktop(argv[0]);

@@ -1,14 +1,14 @@
 #include "conversion/frm_convert.h"
 
-#include "palette/find_palette.h"
+#include "picture/find_palette.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "picture/write_bitmap.h"
-#include "platform/application.h"
-#include "platform/files.h"
-#include "platform/msg_box.h"
-#include "platform/paths.h"
+#include "platform/forms/application.h"
+#include "platform/forms/msg_box.h"
+#include "platform/system/files.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

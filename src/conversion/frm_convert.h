@@ -4,11 +4,11 @@
 #include <functional>
 #include <string>
 
-#include "conversion/progress_count.h"
+#include "formats/progress_count.h"
 #include "picture/conversion_progress.h"
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/progress_bar.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/progress_bar.h"
 
 namespace mill {
 

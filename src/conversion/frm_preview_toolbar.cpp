@@ -6,7 +6,7 @@
 #include "conversion/show_preview.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
+#include "platform/forms/application.h"
 
 namespace mill {
 

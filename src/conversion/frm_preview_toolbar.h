@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/bitmap.h"
-#include "platform/form.h"
-#include "platform/picture_box.h"
+#include "platform/forms/bitmap.h"
+#include "platform/forms/form.h"
+#include "platform/forms/picture_box.h"
 
 namespace mill {
 

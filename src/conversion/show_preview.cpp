@@ -9,8 +9,8 @@
 #include "picture/program_state.h"
 #include "picture/temporary_files.h"
 #include "picture/write_bitmap.h"
-#include "platform/application.h"
-#include "platform/msg_box.h"
+#include "platform/forms/application.h"
+#include "platform/forms/msg_box.h"
 
 namespace mill {
 

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/bitmap.h"
+#include "platform/forms/bitmap.h"
 
 namespace mill {
 

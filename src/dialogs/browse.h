@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 
 namespace mill {
 

@@ -2,9 +2,9 @@
 
 #include "dialogs/version_text.h"
 #include "picture/warn.h"
-#include "platform/application.h"
-#include "platform/environment.h"
-#include "platform/paths.h"
+#include "platform/forms/application.h"
+#include "platform/system/environment.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/file_controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/file_controls.h"
+#include "platform/forms/form.h"
 
 namespace mill {
 

@@ -1,7 +1,7 @@
 #include "dialogs/frm_splash.h"
 
 #include "dialogs/version_text.h"
-#include "platform/application.h"
+#include "platform/forms/application.h"
 
 namespace mill {
 

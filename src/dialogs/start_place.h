@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/file_controls.h"
-#include "platform/paths.h"
+#include "platform/forms/file_controls.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/application.h"
+#include "platform/forms/application.h"
 
 namespace mill {
 

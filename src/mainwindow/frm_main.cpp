@@ -3,13 +3,13 @@
 #include "conversion/frm_convert.h"
 #include "conversion/frm_preview_toolbar.h"
 #include "mainwindow/program_settings.h"
-#include "palette/find_palette.h"
 #include "palette/frm_pal_select.h"
 #include "palette/frm_pal_toolbar.h"
-#include "palette/load_palette.h"
+#include "picture/find_palette.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
-#include "platform/files.h"
+#include "platform/forms/application.h"
+#include "platform/system/files.h"
 
 namespace mill {
 

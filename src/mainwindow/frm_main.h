@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "platform/combo_box.h"
-#include "platform/controls.h"
-#include "platform/file_controls.h"
-#include "platform/form.h"
-#include "platform/menu.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/file_controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/menu.h"
 
 namespace mill {
 

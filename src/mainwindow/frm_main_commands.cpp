@@ -9,8 +9,8 @@
 #include "palette/frm_pal_toolbar.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
-#include "platform/paths.h"
+#include "platform/forms/application.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -2,7 +2,7 @@
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/paths.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -3,8 +3,8 @@
 #include "dialogs/browse.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/msg_box.h"
-#include "platform/paths.h"
+#include "platform/forms/msg_box.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

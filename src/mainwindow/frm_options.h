@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 
 namespace mill {
 

@@ -5,9 +5,9 @@
 
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/application.h"
-#include "platform/paths.h"
-#include "platform/settings.h"
+#include "platform/forms/application.h"
+#include "platform/system/paths.h"
+#include "platform/system/settings.h"
 
 namespace mill {
 

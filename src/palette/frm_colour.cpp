@@ -3,11 +3,11 @@
 #include "conversion/show_preview.h"
 #include "dialogs/frm_save.h"
 #include "palette/frm_pal_extract.h"
-#include "palette/load_palette.h"
 #include "palette/show_colours.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
-#include "platform/number_text.h"
-#include "platform/paths.h"
+#include "platform/system/number_text.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "picture/picture_record.h"
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/swatch_grid.h"
-#include "platform/up_down.h"
+#include "formats/picture_record.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/swatch_grid.h"
+#include "platform/forms/up_down.h"
 
 namespace mill {
 

@@ -4,14 +4,14 @@
 #include <array>
 
 #include "dialogs/browse.h"
-#include "palette/load_palette.h"
+#include "formats/fault.h"
 #include "palette/show_colours.h"
-#include "picture/fault.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/files.h"
-#include "platform/msg_box.h"
-#include "platform/paths.h"
+#include "platform/forms/msg_box.h"
+#include "platform/system/files.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -4,12 +4,12 @@
 #include <string>
 #include <vector>
 
-#include "palette/palette_list.h"
-#include "platform/combo_box.h"
-#include "platform/common_dialog.h"
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/swatch_grid.h"
+#include "formats/palette_list.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/common_dialog.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/swatch_grid.h"
 
 namespace mill {
 

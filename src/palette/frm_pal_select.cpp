@@ -1,7 +1,7 @@
 #include "palette/frm_pal_select.h"
 
 #include "conversion/show_preview.h"
-#include "palette/load_palette.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
 
 namespace mill {

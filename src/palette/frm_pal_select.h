@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/list_box.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/list_box.h"
 
 namespace mill {
 

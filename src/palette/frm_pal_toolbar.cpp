@@ -1,9 +1,9 @@
 #include "palette/frm_pal_toolbar.h"
 
-#include "palette/load_palette.h"
 #include "palette/show_colours.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
-#include "platform/paths.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/form.h"
-#include "platform/swatch_grid.h"
+#include "platform/forms/form.h"
+#include "platform/forms/swatch_grid.h"
 
 namespace mill {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "picture/picture_record.h"
-#include "platform/swatch_grid.h"
+#include "formats/picture_record.h"
+#include "platform/forms/swatch_grid.h"
 
 namespace mill {
 

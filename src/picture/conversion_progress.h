@@ -1,6 +1,6 @@
 #pragma once
 
-#include "picture/byte_stream.h"
+#include "formats/byte_stream.h"
 
 namespace mill {
 

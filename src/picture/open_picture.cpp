@@ -5,18 +5,18 @@
 #include <optional>
 #include <utility>
 
-#include "palette/find_palette.h"
-#include "palette/load_palette.h"
+#include "formats/kestrel_bitmap.h"
+#include "formats/standard_bitmap.h"
 #include "picture/conversion_progress.h"
-#include "picture/kestrel_bitmap.h"
+#include "picture/find_palette.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
-#include "picture/standard_bitmap.h"
 #include "picture/temporary_files.h"
 #include "picture/warn.h"
-#include "platform/application.h"
-#include "platform/files.h"
-#include "platform/msg_box.h"
-#include "platform/paths.h"
+#include "platform/forms/application.h"
+#include "platform/forms/msg_box.h"
+#include "platform/system/files.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "picture/picture_record.h"
-#include "platform/bitmap.h"
+#include "formats/picture_record.h"
+#include "platform/forms/bitmap.h"
 
 namespace mill {
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/environment.h"
-#include "platform/paths.h"
+#include "platform/system/environment.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 

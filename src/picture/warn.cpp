@@ -1,6 +1,6 @@
 #include "picture/warn.h"
 
-#include "platform/msg_box.h"
+#include "platform/forms/msg_box.h"
 
 namespace mill {
 

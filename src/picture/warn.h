@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "picture/fault.h"
+#include "formats/fault.h"
 
 namespace mill {
 

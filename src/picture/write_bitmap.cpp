@@ -2,12 +2,12 @@
 
 #include <limits>
 
+#include "formats/standard_bitmap.h"
 #include "picture/conversion_progress.h"
 #include "picture/program_state.h"
-#include "picture/standard_bitmap.h"
 #include "picture/warn.h"
-#include "platform/application.h"
-#include "platform/files.h"
+#include "platform/forms/application.h"
+#include "platform/system/files.h"
 
 namespace mill {
 

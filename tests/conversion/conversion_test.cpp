@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "conversion/frm_info.h"
-#include "conversion/progress_count.h"
+#include "formats/progress_count.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
+#include "platform/forms/application.h"
 #include "support/windows.h"
 
 namespace mill {

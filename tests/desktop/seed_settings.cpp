@@ -5,8 +5,8 @@
 #include <iostream>
 #include <string>
 
-#include "platform/paths.h"
-#include "platform/settings.h"
+#include "platform/system/paths.h"
+#include "platform/system/settings.h"
 
 int main(int count, char** arguments) {
   for (int i = 1; i < count; ++i) {

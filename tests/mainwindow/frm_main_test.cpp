@@ -9,9 +9,9 @@
 #include <QTest>
 
 #include "picture/program_state.h"
-#include "platform/application.h"
-#include "platform/paths.h"
-#include "platform/settings.h"
+#include "platform/forms/application.h"
+#include "platform/system/paths.h"
+#include "platform/system/settings.h"
 #include "support/windows.h"
 
 namespace mill {

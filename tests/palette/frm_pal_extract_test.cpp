@@ -9,8 +9,8 @@
 #include <optional>
 
 #include "picture/program_state.h"
-#include "platform/common_dialog.h"
-#include "platform/paths.h"
+#include "platform/forms/common_dialog.h"
+#include "platform/system/paths.h"
 #include "support/windows.h"
 
 namespace mill {

@@ -3,9 +3,9 @@
 
 #include <optional>
 
-#include "palette/find_palette.h"
 #include "palette/frm_pal_toolbar.h"
-#include "palette/load_palette.h"
+#include "picture/find_palette.h"
+#include "picture/load_palette.h"
 #include "picture/program_state.h"
 #include "support/windows.h"
 

@@ -1,6 +1,6 @@
 #include <cstdlib>
 
-#include "platform/application.h"
+#include "platform/forms/application.h"
 #include "support/windows.h"
 
 /// The windows are real ones on Qt's offscreen platform, with a home and settings of their own.

@@ -13,9 +13,9 @@
 
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
-#include "platform/application.h"
-#include "platform/paths.h"
-#include "platform/settings.h"
+#include "platform/forms/application.h"
+#include "platform/system/paths.h"
+#include "platform/system/settings.h"
 
 namespace mill::test {
 

@@ -13,8 +13,8 @@
 #include <sys/resource.h>
 #include <vector>
 
-#include "picture/picture_record.h"
-#include "platform/msg_box.h"
+#include "formats/picture_record.h"
+#include "platform/forms/msg_box.h"
 #include "support/format_model.h"
 
 namespace mill::test {

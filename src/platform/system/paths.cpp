@@ -1,0 +1,74 @@
+#include "platform/system/paths.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+
+namespace forms {
+
+namespace {
+
+bool hasDrive(std::string_view path) {
+  return path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0]));
+}
+
+/// The directory with one link for each drive of the Wine prefix.
+std::string wineDrives() {
+  if (const char* prefix = std::getenv("WINEPREFIX"); prefix && *prefix) {
+    return std::string(prefix) + "/dosdevices";
+  }
+  const char* home = std::getenv("HOME");
+  return std::string(home ? home : "") + "/.wine/dosdevices";
+}
+
+/// The native directory that a drive stands for. Where there is no such drive, that doesn't exist.
+std::string driveRoot(char letter) {
+  const char lower = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+  return lower == 'z' ? "/" : wineDrives() + "/" + lower + ":/";
+}
+
+}  // namespace
+
+std::filesystem::path nativePath(std::string_view path) {
+  std::string native;
+  if (hasDrive(path)) {
+    native = driveRoot(path[0]);
+    path.remove_prefix(2);
+  } else if (!path.starts_with('/')) {
+    return {};
+  }
+  native.append(path);
+  std::replace(native.begin(), native.end(), '\\', '/');
+  const auto twoSeparators = [](char a, char b) { return a == '/' && b == '/'; };
+  native.erase(std::unique(native.begin(), native.end(), twoSeparators), native.end());
+  return native;
+}
+
+std::string drivePath(std::string_view path) {
+  if (!path.starts_with('/') && !hasDrive(path)) return std::string(path);
+  std::string shown(hasDrive(path) ? "" : "Z:");
+  shown += path;
+  std::replace(shown.begin(), shown.end(), '/', '\\');
+  return shown;
+}
+
+std::vector<std::string> drives() {
+  std::vector<std::string> letters;
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    std::error_code error;
+    if (std::filesystem::is_directory(driveRoot(letter), error)) letters.push_back({letter, ':'});
+  }
+  return letters;
+}
+
+std::string join(std::string_view directory, std::string_view name) {
+  std::string path;
+  path.reserve(directory.size() + 1 + name.size());
+  return path.append(directory).append(1, '\\').append(name);
+}
+
+std::string_view fileNameOf(std::string_view path) {
+  return path.substr(path.rfind('\\') + 1);
+}
+
+}  // namespace forms
