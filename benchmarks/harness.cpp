@@ -11,8 +11,7 @@
 
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
-#include "platform/forms/application.h"
-#include "platform/forms/progress_bar.h"
+#include "platform/system/application.h"
 #include "platform/system/paths.h"
 #include "platform/system/settings.h"
 
@@ -62,8 +61,7 @@ std::string palette() {
 }  // namespace
 
 Cost now() {
-  return {seconds(CLOCK_PROCESS_CPUTIME_ID), seconds(CLOCK_MONOTONIC),
-          1e-9 * static_cast<double>(forms::ProgressBar::paintingTime().count())};
+  return {seconds(CLOCK_PROCESS_CPUTIME_ID), seconds(CLOCK_MONOTONIC)};
 }
 
 double median(std::vector<double> values) {
@@ -110,19 +108,16 @@ void waitUntilShown(const char* form) {
 }
 
 void showMainWindow(const Folders& folders) {
-  const auto set = [](const char* key, const fs::path& path) {
-    forms::SaveSetting(forms::App.Title, "Settings", key, forms::drivePath(path.string()));
-  };
   const bool search = !folders.palettes.empty();
   save(folders.source / "base.pal", palette());
-  set("Source", folders.source);
-  set("Dest", folders.target);
-  set("PalDir", folders.palettes);
-  set("Palette", folders.source / "base.pal");
-  for (const char* flag : {"AutoPal", "Search", "ShowPal"}) {
-    forms::SaveFlag(forms::App.Title, "Settings", flag, search);
-  }
-  frmMain->Show();
+  sys::Settings settings(sys::App.Title, "Settings");
+  settings.setText("Source", sys::drivePath(folders.source.string()));
+  settings.setText("Dest", sys::drivePath(folders.target.string()));
+  settings.setText("PalDir", sys::drivePath(folders.palettes.string()));
+  settings.setText("Palette", sys::drivePath((folders.source / "base.pal").string()));
+  for (const char* flag : {"AutoPal", "Search", "ShowPal"}) settings.setFlag(flag, search);
+  require(settings.save(), "the settings are saved");
+  frmMain->show();
   waitUntilShown("frmMain");
 }
 

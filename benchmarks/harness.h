@@ -13,10 +13,9 @@ namespace mill::bench {
 struct Cost {
   double processor = 0;
   double elapsed = 0;
-  double painting = 0;  ///< of progress bars, part of `elapsed`
 };
 
-/// Both clocks and the painting time at one moment.
+/// Both clocks at one moment.
 Cost now();
 
 template <class Act>
@@ -24,8 +23,7 @@ Cost measure(Act act) {
   const Cost begin = now();
   act();
   const Cost end = now();
-  return {end.processor - begin.processor, end.elapsed - begin.elapsed,
-          end.painting - begin.painting};
+  return {end.processor - begin.processor, end.elapsed - begin.elapsed};
 }
 
 double median(std::vector<double> values);

@@ -1,13 +1,31 @@
 // Measures the program through its real windows. Takes one argument, a folder in memory-backed
 // storage that it fills with pictures.
 
+#include <QMessageBox>
+
 #include <cstdio>
 
 #include "batches.h"
 #include "harness.h"
-#include "platform/forms/application.h"
-#include "platform/forms/msg_box.h"
+#include "platform/forms/desktop.h"
 #include "windows.h"
+
+namespace {
+
+/// Ends the program when a message box comes up.
+class NoMessages final : public QObject {
+ public:
+  NoMessages() { qApp->installEventFilter(this); }
+
+ private:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(watched) : nullptr;
+    if (box) mill::bench::fail("a message: " + box->text().toStdString());
+    return false;
+  }
+};
+
+}  // namespace
 
 int main(int argc, char** argv) {
   if (argc != 2) {
@@ -15,9 +33,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   const forms::Desktop desktop(argv[0]);
-  forms::answerMessagesWith([](const forms::Message& message) -> forms::Answer {
-    mill::bench::fail("a message: " + message.text);
-  });
+  const NoMessages noMessages;
   std::printf(
       "Whole conversions, processor time against the plain loop; then with the palette\n"
       "search over 50 folders and the swatch window, and how many times that is\n");

@@ -2,10 +2,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 #include <fstream>
@@ -17,7 +19,6 @@
 #include "picture/find_palette.h"
 #include "picture/program_state.h"
 #include "plain_loop.h"
-#include "platform/forms/common_dialog.h"
 
 namespace mill::bench {
 
@@ -104,7 +105,7 @@ void searchPalette(const fs::path& folder) {
 }
 
 void updateSwatches256() {
-  frmPalToolbar->Show();
+  frmPalToolbar->show();
   waitUntilShown("frmPalToolbar");
   std::vector<double> times;
   for (std::uint8_t i = 1; i < 100; ++i) {
@@ -115,7 +116,7 @@ void updateSwatches256() {
   print("an update of all 256 swatches", times, "0.1");
   frmPalToolbar->Unload();
   settle();
-  const double load = measure([] { frmPalToolbar.Load(); }).elapsed;
+  const double load = measure([] { frmPalToolbar.load(); }).elapsed;
   print("loading the swatch window", {load}, "");
   frmPalToolbar->Unload();
   settle();
@@ -130,14 +131,24 @@ void makeList(const fs::path& path, int count) {
   std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<long>(bytes.size()));
 }
 
+/// Browses for a list file in the extractor.
+void pickFile(const fs::path& path) {
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    require(dialog, "the file dialog is shown");
+    dialog->selectFile(QString::fromStdString(path.string()));
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  control<QPushButton>("frmPalExtract", "cmdSourceBrowse")->click();
+}
+
 void walkList(const fs::path& folder) {
   makeList(folder / "long.ksl", 32767);
-  forms::answerCommonDialogWith([&] { return (folder / "long.ksl").string(); });
-  frmPalExtract->Show();
+  frmPalExtract->show();
   waitUntilShown("frmPalExtract");
   std::vector<double> loads, steps;
   for (int i = 0; i < 5; ++i) {
-    control<QPushButton>("frmPalExtract", "cmdSourceBrowse")->click();
+    pickFile(folder / "long.ksl");
     control<QComboBox>("frmPalExtract", "lstSource")->lineEdit()->clear();
     QTest::keyClick(control<QComboBox>("frmPalExtract", "lstSource")->lineEdit(), Qt::Key_X);
     loads.push_back(
@@ -153,7 +164,6 @@ void walkList(const fs::path& folder) {
   }
   print("loading a list of 32,767 palettes", loads, "500");
   print("a step through the list, painted", steps, "20");
-  forms::answerCommonDialogWith({});
   frmPalExtract->Unload();
   settle();
 }

@@ -1,29 +1,35 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
 #include "formats/picture_record.h"
-#include "image.h"
+#include "paint.h"
 
 namespace samples {
 
 /// The index that no coloured pixel has.
 inline constexpr std::uint8_t kTransparent = 0;
 
+using Palette = std::array<Rgb, mill::kColours>;
+
 /// A palette for every purpose: sixteen colours in sixteen shades each, from dark to light. Index
 /// `16 * colour + shade`; index 0 is black.
-mill::ColourTable basePalette();
+Palette basePalette();
 
-/// `start`, moved towards the colours of `image`. Every entry stays near its neighbours, so that
-/// the ramps stay ramps and a picture is still itself with the palette it started from.
-mill::ColourTable fittedPalette(const mill::ColourTable& start, const Image& image);
+/// Some of those sixteen colours. From red to rose they stand in the order of the rainbow.
+enum Hue { kWood = 1, kRed, kGold = 4, kGreen = 6, kBlue = 9, kRose = 12, kSkin, kSlate };
 
-/// Every colour multiplied by `tint`, and drawn by `grey` (0 to 1) towards its own grey.
-mill::ColourTable tinted(mill::ColourTable colours, Rgb tint, double grey);
+/// A shade of one of them, from 0 (dark) to 1.
+Rgb shade(int hue, double t);
 
-/// The indexes of `image` in `colours`, its transparent pixels at `kTransparent`. What the nearest
-/// colour misses is handed on to the neighbours.
-std::vector<std::uint8_t> quantised(const Image& image, const mill::ColourTable& colours);
+/// The base palette, moved towards the colours of a picture, but so gently that the picture still
+/// looks like itself in the base palette.
+Palette fittedPalette(const std::vector<Pixel>& pixels);
+
+/// The indexes of a picture in `colours`, transparent pixels at `kTransparent`.
+std::vector<std::uint8_t> quantised(const std::vector<Pixel>& pixels, int width,
+                                    const Palette& colours);
 
 }  // namespace samples

@@ -1,163 +1,139 @@
 // Makes base.pal, the palette that the program starts with, and a folder of sample pictures with
 // their palettes. The same files come out on every machine.
 
+#include <algorithm>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <map>
+#include <stdexcept>
+#include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 #include "colours.h"
-#include "files.h"
+#include "formats/kestrel_bitmap.h"
+#include "formats/little_endian.h"
+#include "formats/palette_file.h"
+#include "formats/palette_list.h"
 #include "scenes.h"
 
 namespace {
 
 using namespace samples;
 namespace fs = std::filesystem;
+using Bytes = std::vector<std::uint8_t>;
 
-/// The palette indexes that the pictures ask for.
-enum Index : std::int32_t {
-  kCoast = 25,
-  kAlpine = 31,
-  kSpace = 40,
-  kAtlas = 44,
-  kFractal = 52,
-  kItems = 60,
-  kHeraldry = 64,
-  kMasonry = 70,
-  kWaves = 77,
-};
-
-mill::ColourTable withKeyColour(mill::ColourTable colours) {
-  colours[kTransparent] = {.Red = 255, .Green = 0, .Blue = 255};
-  return colours;
+void writeFile(const fs::path& path, const Bytes& bytes) {
+  fs::create_directories(fs::absolute(path).parent_path());
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  file.write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+  file.close();
+  if (!file) throw std::runtime_error(path.string() + ": can't be written");
 }
 
-class SampleFolder {
- public:
-  explicit SampleFolder(const fs::path& root)
-      : pictures_(root / "pictures"), palettes_(root / "palettes") {
-    fs::create_directories(pictures_);
-    fs::create_directories(root / "converted");
+/// The colours as files hold them.
+mill::ColourTable entries(const Palette& colours) {
+  const auto part = [](double value) {
+    return static_cast<std::uint8_t>(std::clamp(value, 0.0, 1.0) * 255 + 0.5);
+  };
+  mill::ColourTable table;
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    table[i] = {part(colours[i].red), part(colours[i].green), part(colours[i].blue)};
   }
+  return table;
+}
 
-  void addPalette(const std::string& folder, std::int32_t index, const mill::ColourTable& colours) {
-    fs::create_directories(palettes_ / folder);
-    writeFile(palettes_ / folder / (std::to_string(index) + ".pal"), paletteFile(colours));
-    colours_.emplace(index, colours);
+void writePalette(const fs::path& path, const Palette& colours) {
+  std::string head = "256 sample colours";
+  head.resize(mill::kPaletteHeadSize);
+  writeFile(path, mill::paletteBytes(head, entries(colours)));
+}
+
+void writePicture(const fs::path& root, const Sample& sample, const Bytes& indexes) {
+  const int stride = sample.width + sample.padding;
+  const int dataSize = stride * sample.height + sample.surplus;
+  Bytes file(static_cast<std::size_t>(mill::kKestrelFrameSize + dataSize));
+  std::copy(sample.magic.begin(), sample.magic.end(), file.begin());
+  mill::storeLittleEndian(file, 20, sample.width);
+  mill::storeLittleEndian(file, 24, sample.height);
+  mill::storeLittleEndian(file, 28, std::int16_t{8});
+  mill::storeLittleEndian(file, 40, dataSize);
+  for (int y = 0; y < sample.height; ++y) {
+    std::copy_n(indexes.begin() + y * sample.width, sample.width,
+                file.begin() + mill::kKestrelHeadSize + y * stride);
   }
+  mill::storeLittleEndian(file, file.size() - sizeof sample.palette, sample.palette);
+  writeFile(root / "pictures" / sample.name, file);
+}
 
-  /// Makes a palette for `image` and keeps it in `folder`.
-  void addFittedPalette(const std::string& folder, std::int32_t index, const Image& image) {
-    addPalette(folder, index, fittedPalette(basePalette(), image));
-  }
-
-  /// Writes `image` in the palette of `shape.paletteIndex`, which is there by now.
-  void addPicture(const std::string& name, const Image& image, KestrelPicture shape) {
-    shape.width = image.width;
-    shape.height = image.height;
-    shape.indexes = quantised(image, colours_.at(shape.paletteIndex));
-    writeFile(pictures_ / name, kestrelFile(shape));
-  }
-
-  void addIndexes(const std::string& name, const KestrelPicture& picture) {
-    writeFile(pictures_ / name, kestrelFile(picture));
-  }
-
-  /// All palettes in one list, in every colour order by turns.
-  void addList(const std::string& name) const {
-    constexpr ColourOrder kOrders[] = {ColourOrder::BlueFirst, ColourOrder::RedFirst,
-                                       ColourOrder::Mixed};
-    std::vector<ListRecord> records;
-    for (const auto& [index, colours] : colours_) {
-      records.push_back({colours, index, kOrders[records.size() % std::size(kOrders)]});
+/// In every colour order by turns: blue first, red first, and red first in every second colour.
+void writePaletteList(const fs::path& path, const std::map<int, Palette>& palettes) {
+  Bytes file(mill::kListHeadSize);
+  mill::storeLittleEndian(file, 4, static_cast<std::uint32_t>(palettes.size()));
+  for (int turn = 0; const auto& [index, colours] : palettes) {
+    std::size_t at = file.size();
+    file.resize(at + mill::kListRecordSize);
+    for (int i = 0; mill::ColourEntry colour : entries(colours)) {
+      const bool redFirst = turn % 3 == 1 || (turn % 3 == 2 && i % 2 == 1);
+      // 255 in the fourth byte is what tells a reader that red comes first.
+      colour.Extra = redFirst ? 255 : 0;
+      if (redFirst) std::swap(colour.Red, colour.Blue);
+      mill::storeColour(file, at, colour);
+      at += mill::kColourSize;
+      ++i;
     }
-    writeFile(palettes_ / name, paletteListFile(records));
+    mill::storeLittleEndian(file, at, index);
+    ++turn;
   }
-
-  const mill::ColourTable& palette(std::int32_t index) const { return colours_.at(index); }
-
- private:
-  fs::path pictures_;
-  fs::path palettes_;
-  std::map<std::int32_t, mill::ColourTable> colours_;
-};
-
-/// Every index once, as sixteen rows of sixteen squares.
-KestrelPicture chart() {
-  constexpr int kSide = 256;
-  KestrelPicture picture{.width = kSide, .height = kSide, .paletteIndex = kAlpine};
-  for (int y = 0; y < kSide; ++y) {
-    for (int x = 0; x < kSide; ++x) {
-      picture.indexes.push_back(static_cast<std::uint8_t>(y / 16 * 16 + x / 16));
-    }
-  }
-  return picture;
+  writeFile(path, file);
 }
 
 void makeSamples(const fs::path& root) {
-  SampleFolder folder(root);
+  const fs::path palettes = root / "palettes";
+  fs::create_directories(root / "converted");
+  std::map<int, Palette> list;
+  for (const Sample& sample : kSamples) {
+    std::vector<Pixel> pixels;
+    for (int y = 0; y < sample.height; ++y) {
+      for (int x = 0; x < sample.width; ++x) {
+        pixels.push_back(sample.scene((x + 0.5) / sample.height, (y + 0.5) / sample.height));
+      }
+    }
+    const Palette colours = list[sample.palette] = fittedPalette(pixels);
+    writePalette(palettes / sample.folder / (std::to_string(sample.palette) + ".pal"), colours);
+    writePicture(root, sample, quantised(pixels, sample.width, colours));
+  }
+  writePaletteList(palettes / "ironveil.ksl", list);
 
-  const Image bay = harbour(1280, 800);
-  folder.addFittedPalette("dusk", kCoast, bay);
-  folder.addPalette("night", kCoast, tinted(folder.palette(kCoast), {0.46, 0.58, 0.95}, 0.65));
-  folder.addPicture("HARBOUR.BMP", bay, {.paletteIndex = kCoast});
+  // By moonlight the harbour is blue, and its reds are dark.
+  Palette night = list[25];
+  for (Rgb& colour : night) {
+    colour = mix(colour * 0.6, Rgb{0.4, 0.56, 1.0} * (colour.green * 0.6 + colour.blue * 0.5), 0.7);
+  }
+  writePalette(palettes / "night/25.pal", night);
 
-  const Image mountains = summit(800, 600);
-  folder.addFittedPalette("day", kAlpine, mountains);
-  folder.addPicture("Summit.bmp", mountains, {.paletteIndex = kAlpine, .magic = "ks"});
-  folder.addIndexes("chart.bmp", chart());
-
-  const Image sky = nebula(800, 600);
-  folder.addFittedPalette("space", kSpace, sky);
-  folder.addPicture("Nebula.bmp", sky, {.paletteIndex = kSpace});
-
-  const Image atlas = islandMap(402, 300);
-  folder.addFittedPalette("day", kAtlas, atlas);
-  folder.addPicture("islemap.bmp", atlas, {.paletteIndex = kAtlas, .rowPadding = 2});
-
-  const Image valley = fractal(640, 480);
-  folder.addFittedPalette("space", kFractal, valley);
-  folder.addPicture("Seahorse.bmp", valley, {.paletteIndex = kFractal});
-
-  const Image items = sprites();
-  folder.addPalette("items", kItems, withKeyColour(fittedPalette(basePalette(), items)));
-  folder.addPicture("ITEMS01.BMP", items, {.paletteIndex = kItems, .magic = "ks"});
-
-  const Image arms = crest(190, 230);
-  folder.addPalette("items", kHeraldry, withKeyColour(fittedPalette(basePalette(), arms)));
-  folder.addPicture("crest.bmp", arms, {.paletteIndex = kHeraldry, .rowPadding = 2});
-
-  const Image wall = stones(256, 256);
-  folder.addFittedPalette("day", kMasonry, wall);
-  folder.addPicture("stonewal.bmp", wall, {.paletteIndex = kMasonry, .surplus = 16 * 256});
-
-  const Image waves = plasma(320, 240);
-  folder.addFittedPalette("space", kWaves, waves);
-  folder.addPicture("Plasma.bmp", waves, {.paletteIndex = kWaves});
-
-  folder.addIndexes(
-      "dot.bmp",
-      {.width = 1, .height = 1, .indexes = {40}, .paletteIndex = kAlpine, .rowPadding = 3});
-
-  folder.addList("ironveil.ksl");
+  // Every index once, as sixteen rows of sixteen squares.
+  Bytes chart(256 * 256);
+  for (std::size_t i = 0; i < chart.size(); ++i) {
+    chart[i] = static_cast<std::uint8_t>(i / 4096 * 16 + i % 256 / 16);
+  }
+  writePicture(root, {"chart.bmp", "day", nullptr, 256, 256, 31}, chart);
+  writePicture(root, {"dot.bmp", "day", nullptr, 1, 1, 31, "KS", 3}, {40});
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
-  const std::vector<std::string_view> words(arguments, arguments + count);
+  const std::string_view command = count == 3 ? arguments[1] : "";
   try {
-    if (words.size() == 3 && words[1] == "base") {
-      writeFile(words[2], paletteFile(basePalette()));
-    } else if (words.size() == 3 && words[1] == "samples") {
-      makeSamples(words[2]);
+    if (command == "base") {
+      writePalette(arguments[2], basePalette());
+    } else if (command == "samples") {
+      makeSamples(arguments[2]);
     } else {
-      std::cerr << "make-samples base FILE      writes the palette that the program starts with\n"
-                   "make-samples samples DIR    writes sample pictures and their palettes\n";
-      return 1;
+      throw std::invalid_argument("needs \"base FILE\" or \"samples DIR\"");
     }
   } catch (const std::exception& error) {
     std::cerr << "make-samples: " << error.what() << '\n';

@@ -5,7 +5,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # What the parts need, as Debian 12 names it.
-build_packages=(qt6-base-dev cmake ninja-build g++ libgtest-dev libbenchmark-dev fonts-liberation)
+build_packages=(qt6-base-dev cmake ninja-build g++ fonts-liberation)
+test_packages=(libgtest-dev libbenchmark-dev)
 desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
 fuzz_packages=(clang libclang-rt-14-dev)
 format_packages=(clang-format)

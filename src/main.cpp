@@ -1,7 +1,8 @@
 #include "mainwindow/frm_main.h"
-#include "platform/forms/application.h"
+#include "platform/forms/desktop.h"
 
 int main(int, char** argv) {
   const forms::Desktop desktop(argv[0]);
-  return forms::App.run(mill::frmMain);
+  mill::frmMain->show();
+  return QApplication::exec();
 }

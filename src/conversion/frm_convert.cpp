@@ -1,11 +1,12 @@
 #include "conversion/frm_convert.h"
 
-#include "picture/find_palette.h"
+#include <QCoreApplication>
+
+#include "picture/hooks.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "picture/write_bitmap.h"
-#include "platform/forms/application.h"
 #include "platform/forms/msg_box.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
@@ -15,60 +16,55 @@ namespace mill {
 ConvertForm::ConvertForm()
     : Form({.Name = "frmConvert",
             .Caption = "Convert Bitmap",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {3975, 3015},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {}
 
 void ConvertForm::Form_Load() {
-  Progress1.setValue(0);
-  Progress2.setValue(0);
-  count.current = 0;
-  conversionProgress = this;
+  hooks.isConverting = [this] { return active() == this; };
+  hooks.startProgress = [this](std::int32_t total) { count.total = total; };
+  hooks.incOpenProgress = [this](std::int16_t num, std::int32_t n) { incOpenProgress(num, n); };
+  hooks.incProgress = [this](std::int16_t num, std::int32_t n) { incProgress(num, n); };
 }
 
 void ConvertForm::incProgress(std::int16_t num, std::int32_t times) {
-  count.report(num, times, [this](std::int32_t percent) { Progress1.setValue(percent); });
+  count.report(num, times, [this](std::int32_t percent) { Progress1->setValue(percent); });
 }
 
 void ConvertForm::incOpenProgress(std::int16_t num, std::int32_t times) {
-  count.report(num, times, [this](std::int32_t percent) { Progress2.setValue(percent); });
-}
-
-bool ConvertForm::isActive() const {
-  const forms::Form* active = forms::Screen.ActiveForm();
-  return active && active->hWnd() == hWnd();
+  count.report(num, times, [this](std::int32_t percent) { Progress2->setValue(percent); });
 }
 
 void ConvertForm::cmdYes_Click() {
-  if (directoriesAreOne()) return Hide();
+  if (directoriesAreOne()) return hide();
   enableButtons(false);
   convertSelection();
-  Progress1.Refresh();
-  Progress2.Refresh();
+  Progress1->paintNow();
+  Progress2->paintNow();
   state.PictureFileName.clear();
-  forms::dropInput();
+  // Drops what was clicked and typed meanwhile: this window is modal, and its buttons are disabled.
+  QCoreApplication::processEvents();
   enableButtons(true);
-  Hide();
+  hide();
 }
 
 /// Every picture would be written over itself; said once, and not for each of them.
 bool ConvertForm::directoriesAreOne() const {
-  if (!forms::isSame(sourceDirectory(), destinationDirectory())) return false;
+  if (!sys::isSame(sourceDirectory(), destinationDirectory())) return false;
   warn(Fault::SameDirectory);
   return true;
 }
 
 void ConvertForm::enableButtons(bool enabled) {
-  cmdYes.setEnabled(enabled);
-  cmdNo.setEnabled(enabled);
-  if (!enabled) Refresh();
+  cmdYes->setEnabled(enabled);
+  cmdNo->setEnabled(enabled);
+  if (!enabled) repaint();
 }
 
 void ConvertForm::convertSelection() {
-  const PaletteSearchRun run;
+  PaletteNames names;
   for (std::int32_t i = 0; i < state.SelectedCount; ++i) {
-    const bool written = convertFile(state.SelectedFiles[static_cast<std::size_t>(i)]);
+    const bool written = convertFile(state.SelectedFiles[static_cast<std::size_t>(i)], names);
     const bool more = i + 1 < state.SelectedCount;
     if (!written && more &&
         forms::MsgBox({.text = "Go on with the remaining pictures?",
@@ -81,19 +77,19 @@ void ConvertForm::convertSelection() {
 }
 
 /// False where a bitmap couldn't be written; a picture that was refused isn't tried.
-bool ConvertForm::convertFile(const std::string& name) {
-  Progress2.setValue(100);
-  Progress1.setValue(0);
+bool ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
+  Progress2->setValue(100);
+  Progress1->setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
-    OpenPicture(forms::join(sourceDirectory(), name));
+    OpenPicture(sys::join(sourceDirectory(), name), &names);
   }
   bool written = true;
   if (name == state.PictureFileName) {
     count.current = 0;
-    written = WriteBitmap(forms::join(destinationDirectory(), name));
+    written = WriteBitmap(sys::join(destinationDirectory(), name));
   }
-  Progress2.setValue(0);
+  Progress2->setValue(0);
   return written;
 }
 

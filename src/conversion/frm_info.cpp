@@ -20,19 +20,18 @@ std::string withSign(std::int32_t number) {
 InfoForm::InfoForm()
     : Form({.Name = "frmInfo",
             .Caption = "Picture Information",
-            .BorderStyle = forms::Border::FixedDialog,
             .Client = {3150, 2655},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {}
 
 void InfoForm::Form_Load() {
   const PictureRecord& picture = state.PictureRecord;
-  lblName.setCaption(state.PictureFileName);
-  lblSize.setCaption(std::to_string(picture.bfSize));
-  lblDimensions.setCaption(withSign(picture.biWidth) + " x" + withSign(picture.biHeight) +
-                           " pixels");
-  lblFormat.setCaption(state.RecordIsStandard ? "Windows Bitmap" : "Kestrel Bitmap");
-  lblIndex.setCaption(state.RecordIsStandard ? "N/A" : std::to_string(picture.PaletteIndex));
+  lblName->showText(state.PictureFileName);
+  lblSize->showText(std::to_string(picture.bfSize));
+  lblDimensions->showText(withSign(picture.biWidth) + " x" + withSign(picture.biHeight) +
+                          " pixels");
+  lblFormat->showText(state.RecordIsStandard ? "Windows Bitmap" : "Kestrel Bitmap");
+  lblIndex->showText(state.RecordIsStandard ? "N/A" : std::to_string(picture.PaletteIndex));
 }
 
 }  // namespace mill

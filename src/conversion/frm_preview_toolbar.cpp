@@ -1,46 +1,47 @@
 #include "conversion/frm_preview_toolbar.h"
 
+#include <QScreen>
+
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
 #include "conversion/show_preview.h"
-#include "picture/open_picture.h"
+#include "picture/hooks.h"
 #include "picture/program_state.h"
-#include "platform/forms/application.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
 PreviewForm::PreviewForm()
     : Form({.Name = "frmPreviewToolbar",
             .Caption = "Preview",
-            .BorderStyle = forms::Border::SizableToolWindow,
-            .Client = {4575, 3495}}) {}
+            .Client = {4575, 3495},
+            .BorderStyle = forms::Border::SizableTool}) {}
 
 void PreviewForm::Form_Load() {
-  fitPreview = [this](std::int32_t width, std::int32_t height) {
-    // A bitmap whose rows run from the top has a negative height.
-    setClientSize(width, std::abs(std::int64_t{height}));
-  };
+  hooks.fitPreview = [this](std::int32_t width, std::int32_t height) { fit(width, height); };
 }
 
-void PreviewForm::Form_Unload() {
-  fitPreview = {};
+/// The client area gets the picture's size, but none that is larger than the screen.
+void PreviewForm::fit(std::int32_t width, std::int32_t height) {
+  const QSize most = screen()->virtualSize();
+  // A bitmap whose rows run from the top has a negative height.
+  const std::int64_t rows = std::abs(std::int64_t{height});
+  resize(std::clamp(width, 1, most.width()),
+         static_cast<int>(std::clamp<std::int64_t>(rows, 1, most.height())));
 }
 
 void PreviewForm::Form_Resize() {
-  Picture1.setSize({ScaleWidth(), ScaleHeight()});
+  Picture1->resize(client()->size());
   if (!state.PictureFileName.empty()) ShowPreview();
 }
 
-PixelSize PreviewForm::boxSize() const {
-  return {Picture1.ScaleWidth() / forms::Screen.TwipsPerPixelX(),
-          Picture1.ScaleHeight() / forms::Screen.TwipsPerPixelY()};
-}
-
-void PreviewForm::paint(const forms::Bitmap* bitmap, PixelSize size) {
-  Picture1.Cls();
-  if (bitmap) Picture1.copy(*bitmap, size.width, size.height);
-  Refresh();
+void PreviewForm::paintPreview(const QSize& part) {
+  const std::string name = state.PreviewDC ? "Preview of " + state.PictureFileName : "Preview";
+  Picture1->setAccessibleName(sys::shown(name));
+  Picture1->showImage(state.PreviewDC ? *state.PreviewDC : QImage(), part);
+  repaint();
 }
 
 }  // namespace mill

@@ -5,57 +5,59 @@
 #include <cstdlib>
 #include <utility>
 
+#include "conversion/bitmap.h"
 #include "conversion/frm_preview_toolbar.h"
 #include "picture/program_state.h"
 #include "picture/temporary_files.h"
 #include "picture/write_bitmap.h"
-#include "platform/forms/application.h"
+#include "platform/forms/hourglass.h"
 #include "platform/forms/msg_box.h"
 
 namespace mill {
 
 namespace {
 
-/// The height of a bitmap whose rows run from the top is negative.
-int rowsOf(const PictureRecord& record) {
+QSize sizeOf(const PictureRecord& record) {
+  // The height of a bitmap whose rows run from the top is negative.
   const std::int64_t rows = std::abs(std::int64_t{record.biHeight});
-  return static_cast<int>(std::min<std::int64_t>(rows, INT32_MAX));
+  return {record.biWidth, static_cast<int>(std::min<std::int64_t>(rows, INT32_MAX))};
+}
+
+void clearPreview() {
+  state.PreviewDC.reset();
+  frmPreviewToolbar->paintPreview({});
 }
 
 }  // namespace
 
-std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path) {
-  const PixelSize box = frmPreviewToolbar->boxSize();
-  if (!state.ResizeFit && (box.width == 0 || box.height == 0)) return nullptr;
-  const PixelSize size = state.ResizeFit ? PixelSize{} : box;
-  auto bitmap = forms::Bitmap::load(path, size.width, size.height);
+std::shared_ptr<const QImage> LoadBitmapDC(const std::string& path) {
+  const QSize box = frmPreviewToolbar->boxSize();
+  if (!state.ResizeFit && box.isEmpty()) return nullptr;
+  const QSize size = state.ResizeFit ? QSize(0, 0) : box;
+  auto bitmap = loadBitmap(path, size.width(), size.height());
   if (!bitmap) forms::MsgBox({.text = "error loading bitmap."});
   return bitmap;
 }
 
 void ShowPreview() {
-  // Resizing the window while it has a message open brings no further ones.
-  static bool showing = false;
-  if (state.TempPicturePath.empty() || std::exchange(showing, true)) return;
+  // Resized while it has a message open, the window brings no further ones.
+  bool& isShowing = frmPreviewToolbar->isShowing;
+  if (state.TempPicturePath.empty() || std::exchange(isShowing, true)) return;
   const forms::Hourglass hourglass;
-  frmPreviewToolbar->paint(nullptr, {});
-  state.PreviewDC.reset();
+  clearPreview();
   state.PreviewDC = LoadBitmapDC(state.TempPicturePath);
-  const PictureRecord& record = state.PictureRecord;
-  frmPreviewToolbar->paint(state.PreviewDC.get(), state.ResizeFit
-                                                      ? PixelSize{record.biWidth, rowsOf(record)}
-                                                      : frmPreviewToolbar->boxSize());
-  showing = false;
+  frmPreviewToolbar->paintPreview(state.ResizeFit ? sizeOf(state.PictureRecord)
+                                                  : frmPreviewToolbar->boxSize());
+  isShowing = false;
 }
 
 void renewPreview() {
   state.TempPicturePath = tempPicturePath();
-  const bool written = WriteBitmap(state.TempPicturePath);
+  const bool isWritten = WriteBitmap(state.TempPicturePath);
   if (state.PictureFileName.empty()) return;
-  if (written) return ShowPreview();
+  if (isWritten) return ShowPreview();
   state.TempPicturePath.clear();
-  state.PreviewDC.reset();
-  frmPreviewToolbar->paint(nullptr, {});
+  clearPreview();
 }
 
 }  // namespace mill

@@ -3,13 +3,13 @@
 #include <memory>
 #include <string>
 
-#include "platform/forms/bitmap.h"
+class QImage;
 
 namespace mill {
 
 /// Loads the bitmap file at `path`: at its own size with `ResizeFit`, else stretched to the preview
 /// box. Null, with a message, where it can't be loaded.
-std::unique_ptr<forms::Bitmap> LoadBitmapDC(const std::string& path);
+std::shared_ptr<const QImage> LoadBitmapDC(const std::string& path);
 
 /// Loads the temporary bitmap and paints it into the preview window.
 void ShowPreview();

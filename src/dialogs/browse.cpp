@@ -9,7 +9,7 @@ namespace mill {
 void browseForDirectory(const char* caption, const std::string& start, forms::Form& owner) {
   frmBrowse->setCaption(caption);
   state.BrowseResult = start;
-  frmBrowse->Show(forms::vbModal, owner);
+  frmBrowse->showModal(&owner);
 }
 
 void browseForPalette(const std::string& start, forms::Form& owner) {
@@ -17,7 +17,7 @@ void browseForPalette(const std::string& start, forms::Form& owner) {
   state.BrowseResult = start;
   state.FileResult.clear();
   state.FilePattern = "*.pal";
-  frmFileBrowse->Show(forms::vbModal, owner);
+  frmFileBrowse->showModal(&owner);
 }
 
 }  // namespace mill

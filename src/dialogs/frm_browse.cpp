@@ -8,23 +8,22 @@ namespace mill {
 BrowseForm::BrowseForm()
     : Form({.Name = "frmBrowse",
             .Caption = "Browse for Source Directory",
-            .BorderStyle = forms::Border::FixedDialog,
             .Client = {3825, 2865},
             .Position = forms::StartUpPosition::CentreOwner,
             .Icon = true}) {}
 
 void BrowseForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) startAt(Drive1, Dir1, state.BrowseResult);
+  if (!state.BrowseResult.empty()) startAt(*Drive1, *Dir1, state.BrowseResult);
 }
 
 void BrowseForm::OKButton_Click() {
-  state.BrowseResult = Dir1.Path();
-  Hide();
+  state.BrowseResult = Dir1->Path();
+  hide();
 }
 
 void BrowseForm::CancelButton_Click() {
   state.BrowseResult.clear();
-  Hide();
+  hide();
 }
 
 }  // namespace mill

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/forms/controls.h"
-#include "platform/forms/file_controls.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/dir_tree.h"
 #include "platform/forms/form.h"
 
 namespace mill {
@@ -15,20 +15,15 @@ class BrowseForm final : public forms::Form {
 
  private:
   void Form_Activate() override;
-  void Drive1_Change() { Dir1.setPath(Drive1.Drive()); }
   void OKButton_Click();
   void CancelButton_Click();
 
-  forms::DriveListBox Drive1{*this, "Drive1", {120, 120, 2415, 315}, &BrowseForm::Drive1_Change};
-  forms::DirListBox Dir1{*this, "Dir1", {120, 480, 2415, 2265}};
-  forms::CommandButton OKButton{
-      *this, "OKButton", "OK", {2640, 120, 1065, 375}, &BrowseForm::OKButton_Click, forms::Default};
-  forms::CommandButton CancelButton{*this,
-                                    "CancelButton",
-                                    "Cancel",
-                                    {2640, 600, 1065, 375},
-                                    &BrowseForm::CancelButton_Click,
-                                    forms::Cancel};
+  // clang-format off
+  forms::DriveBox* Drive1       = add<forms::DriveBox>("Drive1",   { 120, 120, 2415,  315}, [this] { Dir1->setPath(Drive1->Drive()); });
+  forms::DirTree*  Dir1         = add<forms::DirTree> ("Dir1",     { 120, 480, 2415, 2265});
+  QPushButton*     OKButton     = button("OKButton",     "OK",     {2640, 120, 1065,  375}, [this] { OKButton_Click(); },     forms::Default);
+  QPushButton*     CancelButton = button("CancelButton", "Cancel", {2640, 600, 1065,  375}, [this] { CancelButton_Click(); }, forms::Cancel);
+  // clang-format on
 };
 
 inline forms::Global<BrowseForm> frmBrowse;

@@ -8,27 +8,26 @@ namespace mill {
 FileBrowseForm::FileBrowseForm()
     : Form({.Name = "frmFileBrowse",
             .Caption = "Browse for File",
-            .BorderStyle = forms::Border::FixedDialog,
             .Client = {6030, 2895},
             .Position = forms::StartUpPosition::Manual,
             .Icon = true,
             .At = {2760, 3750}}) {}
 
 void FileBrowseForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) startAtFile(Drive1, Dir1, state.BrowseResult);
-  File1.setPattern(state.FilePattern);
+  if (!state.BrowseResult.empty()) startAtFile(*Drive1, *Dir1, state.BrowseResult);
+  File1->setPattern(state.FilePattern);
 }
 
 void FileBrowseForm::cmdOK_Click() {
-  state.BrowseResult = Dir1.Path();
-  state.FileResult = File1.FileName();
-  Hide();
+  state.BrowseResult = Dir1->Path();
+  state.FileResult = File1->FileName();
+  hide();
 }
 
 void FileBrowseForm::cmdCancel_Click() {
   state.BrowseResult.clear();
   state.FileResult.clear();
-  Hide();
+  hide();
 }
 
 }  // namespace mill

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "platform/forms/controls.h"
-#include "platform/forms/file_controls.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/dir_tree.h"
+#include "platform/forms/file_list.h"
 #include "platform/forms/form.h"
 
 namespace mill {
@@ -17,27 +18,20 @@ class SaveForm final : public forms::Form {
  private:
   void Form_Load() override { Dir1_Change(); }
   void Form_Activate() override;
-  void Drive1_Change() { Dir1.setPath(Drive1.Drive()); }
-  void Dir1_Change() { File1.setPath(Dir1.Path()); }
-  void File1_Click() { txtFilename.setText(File1.FileName()); }
+  void Dir1_Change() { File1->setPath(Dir1->Path()); }
+  void File1_Click() { txtFilename->setText(File1->chosenText()); }
   void cmdOK_Click();
   void cmdCancel_Click();
 
-  forms::DriveListBox Drive1{*this, "Drive1", {120, 120, 2295, 315}, &SaveForm::Drive1_Change};
-  forms::DirListBox Dir1{*this, "Dir1", {120, 480, 2295, 2295}, &SaveForm::Dir1_Change};
-  forms::FileListBox File1{*this,
-                           "File1",
-                           {2520, 120, 2295, 2655},
-                           "*.*",
-                           forms::MultiSelect::None,
-                           &SaveForm::File1_Click};
-  forms::Label Label1{*this, "Label1", "Filename:", {120, 3045, 855, 195}};
-  forms::TextBox txtFilename{*this, "txtFilename", {1080, 3000, 3735, 315}};
-  forms::CommandButton cmdOK{
-      *this, "cmdOK", "OK", {4920, 120, 945, 375}, &SaveForm::cmdOK_Click, forms::Default};
-  forms::CommandButton cmdCancel{
-      *this,        "cmdCancel", "Cancel", {4920, 600, 945, 375}, &SaveForm::cmdCancel_Click,
-      forms::Cancel};
+  // clang-format off
+  forms::DriveBox* Drive1      = add<forms::DriveBox>("Drive1",  { 120,  120, 2295,  315}, [this] { Dir1->setPath(Drive1->Drive()); });
+  forms::DirTree*  Dir1        = add<forms::DirTree> ("Dir1",    { 120,  480, 2295, 2295}, [this] { Dir1_Change(); });
+  forms::FileList* File1       = add<forms::FileList>("File1",   {2520,  120, 2295, 2655}, "*.*", QListView::SingleSelection, [this] { File1_Click(); });
+  QLabel*          Label1      = label   ("Label1", "Filename:", { 120, 3045,  855,  195});
+  QLineEdit*       txtFilename = lineEdit("txtFilename",         {1080, 3000, 3735,  315}, Label1);
+  QPushButton*     cmdOK       = button("cmdOK",     "OK",       {4920,  120,  945,  375}, [this] { cmdOK_Click(); },     forms::Default);
+  QPushButton*     cmdCancel   = button("cmdCancel", "Cancel",   {4920,  600,  945,  375}, [this] { cmdCancel_Click(); }, forms::Cancel);
+  // clang-format on
 };
 
 inline forms::Global<SaveForm> frmSave;

@@ -1,21 +1,22 @@
 #include "dialogs/frm_splash.h"
 
-#include "dialogs/version_text.h"
-#include "platform/forms/application.h"
+#include <QMouseEvent>
+#include <QPixmap>
 
 namespace mill {
 
 SplashForm::SplashForm()
     : Form({.Name = "frmSplash",
             .Caption = "",
-            .BorderStyle = forms::Border::FixedDialog,
             .Client = {7380, 4245},
             .Position = forms::StartUpPosition::CentreScreen,
-            .ControlBox = false}) {}
+            .ControlBox = false}) {
+  imgLogo->setPixmap(QPixmap(QStringLiteral(":/logo.png")));
+  imgLogo->setScaledContents(true);
+}
 
-void SplashForm::Form_Load() {
-  lblVersion.setCaption(versionText());
-  lblProductName.setCaption(forms::App.Title);
+void SplashForm::mouseReleaseEvent(QMouseEvent* event) {
+  if (Frame1->geometry().contains(event->position().toPoint())) Unload();
 }
 
 }  // namespace mill

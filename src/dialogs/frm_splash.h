@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/forms/controls.h"
 #include "platform/forms/form.h"
-#include "platform/forms/image.h"
+#include "platform/system/application.h"
 
 namespace mill {
 
@@ -13,36 +12,24 @@ class SplashForm final : public forms::Form {
  public:
   SplashForm();
 
+ protected:
+  /// Clicks on the frame come here; those on what stands in it don't.
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
  private:
-  void Form_Load() override;
-  void cmdOK_Click() { Unload(); }
-  void Frame1_Click() { Unload(); }
-
-  static constexpr auto Fixed = forms::LabelStyle::Fixed;
-  static constexpr auto AutoSize = forms::LabelStyle::AutoSize;
-  static constexpr auto Right = forms::Alignment::Right;
-
-  forms::Frame Frame1{*this, "Frame1", "", {120, 120, 7140, 4005}, &SplashForm::Frame1_Click};
-  forms::Image imgLogo{Frame1, "imgLogo", {240, 540, 1815, 2385}, "logo.png"};
-  forms::Label lblRelease{Frame1, "lblRelease",        "Public Beta Release", {240, 180, 6660, 225},
-                          Fixed,  {.Alignment = Right}};
-  forms::Label lblCompanyProduct{Frame1,           "lblCompanyProduct",
-                                 "CompanyProduct", {2340, 600, 2865, 435},
-                                 AutoSize,         {.Points = 18, .Bold = true}};
-  forms::Label lblProductName{Frame1,    "lblProductName",
-                              "Product", {2340, 1080, 2400, 765},
-                              AutoSize,  {.Points = 32.25, .Bold = true}};
-  forms::Label lblPlatform{Frame1,    "lblPlatform",
-                           "Windows", {5430, 1980, 1470, 375},
-                           AutoSize,  {.Points = 15.75, .Bold = true, .Alignment = Right}};
-  forms::Label lblVersion{Frame1,    "lblVersion",
-                          "Version", {5895, 2400, 1005, 285},
-                          AutoSize,  {.Points = 12, .Bold = true, .Alignment = Right}};
-  forms::Label lblNotice{Frame1, "lblNotice", "", {2340, 2760, 4560, 225}};
-  forms::Label lblCompany{Frame1, "lblCompany", "Ferndale Computers", {240, 3060, 4560, 225}};
-  forms::Label lblWarning{Frame1, "lblWarning", "Warning", {240, 3300, 5100, 225}};
-  forms::CommandButton cmdOK{
-      Frame1, "cmdOK", "OK", {5805, 3540, 1095, 375}, &SplashForm::cmdOK_Click};
+  // clang-format off
+  forms::Frame* Frame1            = frame("Frame1", "",                                             { 120,  120, 7140, 4005});
+  QLabel*       imgLogo           = Frame1->label    ("imgLogo",           "",                      { 240,  540, 1815, 2385});
+  QLabel*       lblRelease        = Frame1->label    ("lblRelease",        "Public Beta Release",   { 240,  180, 6660,  225}, {.Alignment = Qt::AlignRight});
+  QLabel*       lblCompanyProduct = Frame1->autoLabel("lblCompanyProduct", "CompanyProduct",        {2340,  600, 2865,  435}, {.Points = 18, .Bold = true});
+  QLabel*       lblProductName    = Frame1->autoLabel("lblProductName",    sys::App.Title,          {2340, 1080, 2400,  765}, {.Points = 32.25, .Bold = true});
+  QLabel*       lblPlatform       = Frame1->autoLabel("lblPlatform",       "Windows",               {5430, 1980, 1470,  375}, {.Points = 15.75, .Bold = true, .Alignment = Qt::AlignRight});
+  QLabel*       lblVersion        = Frame1->autoLabel("lblVersion",        "Version " MILL_VERSION, {5895, 2400, 1005,  285}, {.Points = 12, .Bold = true, .Alignment = Qt::AlignRight});
+  QLabel*       lblNotice         = Frame1->label    ("lblNotice",         "",                      {2340, 2760, 4560,  225});
+  QLabel*       lblCompany        = Frame1->label    ("lblCompany",        "Ferndale Computers",    { 240, 3060, 4560,  225});
+  QLabel*       lblWarning        = Frame1->label    ("lblWarning",        "Warning",               { 240, 3300, 5100,  225});
+  QPushButton*  cmdOK             = Frame1->button   ("cmdOK",             "OK",                    {5805, 3540, 1095,  375}, [this] { Unload(); });
+  // clang-format on
 };
 
 inline forms::Global<SplashForm> frmSplash;

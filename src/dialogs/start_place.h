@@ -2,24 +2,24 @@
 
 #include <string>
 
-#include "platform/forms/file_controls.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/dir_tree.h"
 #include "platform/system/paths.h"
 
 namespace mill {
 
 /// Takes the lists of a browse dialog to a directory and its drive.
-inline void startAt(forms::DriveListBox& drives, forms::DirListBox& directories,
-                    const std::string& path) {
-  const std::string place = forms::drivePath(path);
+inline void startAt(forms::DriveBox& drives, forms::DirTree& directories, const std::string& path) {
+  const std::string place = sys::drivePath(path);
   drives.setDrive(place.substr(0, 2));
   directories.setPath(place);
 }
 
 /// The same for the directory of a file: what follows the last backslash is dropped, so that a path
 /// without one leaves the directory alone.
-inline void startAtFile(forms::DriveListBox& drives, forms::DirListBox& directories,
+inline void startAtFile(forms::DriveBox& drives, forms::DirTree& directories,
                         const std::string& path) {
-  const std::string file = forms::drivePath(path);
+  const std::string file = sys::drivePath(path);
   drives.setDrive(file.substr(0, 2));
   directories.setPath(file.substr(0, file.rfind('\\') + 1));
 }

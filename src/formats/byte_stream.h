@@ -8,27 +8,27 @@
 
 namespace mill {
 
-/// Fills all of the span from the present position and moves on. False where the bytes end before
-/// that or can't be read.
+/// Fills the span from the current position and advances. False if the bytes run out or can't be
+/// read.
 using ReadBytes = std::function<bool(std::span<std::uint8_t>)>;
 
-/// Writes all of the span at the present position and moves on. False where that fails.
+/// Writes the span at the current position and advances. False on failure.
 using WriteBytes = std::function<bool(std::span<const std::uint8_t>)>;
 
-/// Is told how far a read or a write has come. This one listens to nothing.
+/// Receives the progress of a read or write. This one ignores it.
 class Progress {
  public:
   virtual ~Progress() = default;
 
-  /// `total` bytes count as the whole.
+  /// `total` bytes are 100 percent.
   virtual void start(std::int32_t /*total*/) {}
 
-  /// `times` reports, one after the other, of `num` bytes each.
+  /// `times` consecutive reports of `num` bytes each.
   virtual void report(std::int16_t /*num*/, std::int32_t /*times*/ = 1) {}
 };
 
-/// Fills `bytes` and reports each one of them. In chunks, so that the progress of a large picture
-/// is seen to move. False where `read` fails.
+/// Fills `bytes` and reports each of them, in chunks, so that the progress bar moves while a large
+/// picture is read. False if `read` fails.
 [[nodiscard]] inline bool readReported(std::span<std::uint8_t> bytes, const ReadBytes& read,
                                        Progress& progress) {
   constexpr std::size_t kChunk = 1 << 20;

@@ -4,7 +4,7 @@
 
 namespace mill {
 
-/// What can go wrong with pictures, palettes and where they go. One fault, one message.
+/// What can go wrong when pictures and palettes are read or written. Each fault has one message.
 enum class Fault {
   None,
   PictureMissing,
@@ -23,7 +23,7 @@ enum class Fault {
   NotAPaletteList,
 };
 
-/// The text that tells the user of `fault`; empty for `Fault::None`.
+/// The message for the user; empty for `Fault::None`.
 std::string_view message(Fault fault);
 
 }  // namespace mill

@@ -39,13 +39,13 @@ static_assert(kKestrelHeadSize + kTailSize == kKestrelFrameSize);
 
 constexpr std::int32_t kMaxDifference = std::numeric_limits<std::int16_t>::max();
 
-// Within these limits every count is a 32-bit number: the area, and the data size with what is
-// reported beyond it, since the data size comes to height x (width + difference).
+// Within these limits every count fits in 32 bits: the area, and the data size plus what is
+// reported beyond it, since the data size is height x (width + difference).
 static_assert(std::int64_t{kMaxWidth} * kMaxHeight <= std::numeric_limits<std::int32_t>::max());
 static_assert((kMaxWidth + kMaxDifference + 0.5) * kMaxHeight + kKestrelFrameSize + kTailSize <=
               std::numeric_limits<std::int32_t>::max());
 
-/// Bytes per row beyond the width, before anyone decides what they mean. Expects a height above 0.
+/// Bytes per row beyond the width, padding or not. Expects a height above 0.
 double rowDifference(std::int32_t width, std::int32_t height, std::int32_t dataSize) {
   return std::nearbyint(static_cast<double>(dataSize) / height - width);
 }
@@ -59,7 +59,7 @@ bool isDamaged(const KestrelHead& head, std::int64_t fileSize) {
   return rowDifference(head.width, head.height, head.dataSize) > kMaxDifference;
 }
 
-/// The size of what counts as the picture: all of the data, or without what follows its rows.
+/// The size of the pixel data without any surplus that follows the rows.
 std::int32_t imageSize(const KestrelHead& head) {
   if (head.height == 0) return head.dataSize;
   const bool surplus = rowDifference(head.width, head.height, head.dataSize) > kMaxPadding;

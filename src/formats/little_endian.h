@@ -10,7 +10,7 @@
 
 namespace mill {
 
-/// The number of type `T` that begins at `bytes[at]`, lowest byte first.
+/// The number of type `T` stored from `bytes[at]` on, lowest byte first.
 template <std::integral T>
 constexpr T loadLittleEndian(std::span<const std::uint8_t> bytes, std::size_t at) {
   std::uint64_t value = 0;
@@ -18,7 +18,7 @@ constexpr T loadLittleEndian(std::span<const std::uint8_t> bytes, std::size_t at
   return static_cast<T>(value);
 }
 
-/// Puts `value` at `bytes[at]` and on, lowest byte first.
+/// Stores `value` from `bytes[at]` on, lowest byte first.
 template <std::integral T>
 constexpr void storeLittleEndian(std::span<std::uint8_t> bytes, std::size_t at, T value) {
   for (std::size_t i = 0; i < sizeof(T); ++i) {
@@ -26,16 +26,15 @@ constexpr void storeLittleEndian(std::span<std::uint8_t> bytes, std::size_t at, 
   }
 }
 
-/// The bytes of one colour in a file. Blue, Green, Red, Extra is a little-endian number with
-/// `Extra` on top.
+/// The size of one colour in a file: Blue, Green, Red, Extra.
 inline constexpr std::size_t kColourSize = 4;
 
-/// The colour that begins at `bytes[at]`.
+/// The colour stored from `bytes[at]` on.
 constexpr ColourEntry loadColour(std::span<const std::uint8_t> bytes, std::size_t at) {
   return {.Red = bytes[at + 2], .Green = bytes[at + 1], .Blue = bytes[at], .Extra = bytes[at + 3]};
 }
 
-/// Puts the four bytes of `colour` at `bytes[at]` and on.
+/// Stores the four bytes of `colour` from `bytes[at]` on.
 constexpr void storeColour(std::span<std::uint8_t> bytes, std::size_t at, ColourEntry colour) {
   bytes[at] = colour.Blue;
   bytes[at + 1] = colour.Green;

@@ -1,10 +1,10 @@
 // Palette file.
 //
 //   offset  size  content
-//        0    24  head, opaque: kept from the file read last and given to every file written
+//        0    24  opaque head; files are written with the head of the file read last
 //       24  1024  256 colours: Blue, Green, Red, Extra
 //
-// What follows isn't read. A head of another length moves the colours with it.
+// Anything after that is ignored. If the head has another length, the colours follow it directly.
 
 #include "formats/palette_file.h"
 

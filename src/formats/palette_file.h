@@ -10,18 +10,18 @@
 
 namespace mill {
 
-/// The opaque head of a palette file, in bytes.
+/// The size of the opaque head, in bytes.
 inline constexpr int kPaletteHeadSize = 24;
-/// The whole of a palette file, in bytes.
+/// The size of a whole palette file, in bytes.
 inline constexpr int kPaletteFileSize = kPaletteHeadSize + 4 * kColours;
 
-/// Reads the first 1048 of `bytes`, a palette file from its start.
-/// Fault: PaletteIncomplete; below 24 bytes nothing changes then, from 24 on the head and the whole
-/// entries that are there are taken and the missing ones are all 0.
+/// Reads a palette from the first 1048 of `bytes`. Fault: PaletteIncomplete. Fewer than 24 bytes
+/// change nothing; from 24 on, the head and all complete entries are taken, and missing entries are
+/// all 0.
 [[nodiscard]] Fault readPalette(std::span<const std::uint8_t> bytes, std::string& head,
                                 ColourTable& colours);
 
-/// The bytes of a palette file: `head` with its present length, then the colours.
+/// The bytes of a palette file: `head` as long as it is, then the colours.
 std::vector<std::uint8_t> paletteBytes(const std::string& head, const ColourTable& colours);
 
 }  // namespace mill

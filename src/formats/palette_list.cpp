@@ -12,8 +12,8 @@
 //     1024     4      palette index, signed
 //     1028     4      not interpreted
 //
-// The fourth byte of a colour tells the order of the other three: with 255 Red, Green, Blue, with
-// anything else Blue, Green, Red. Both can stand side by side in one record.
+// The fourth byte of a colour gives the order of the other three: 255 means Red, Green, Blue,
+// anything else Blue, Green, Red. One record may contain both.
 
 #include "formats/palette_list.h"
 

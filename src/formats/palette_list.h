@@ -10,11 +10,11 @@
 
 namespace mill {
 
-/// The bytes of a palette list ahead of its records.
+/// The size of the head, in bytes.
 inline constexpr int kListHeadSize = 52;
-/// The bytes of one record.
+/// The size of one record, in bytes.
 inline constexpr int kListRecordSize = 1032;
-/// So many records a list can hold.
+/// The largest number of records in a list.
 inline constexpr int kListLimit = 32767;
 
 /// One palette of a list.
@@ -23,13 +23,13 @@ struct ListPalette {
   std::int32_t Index = 0;
 };
 
-/// Reads the number of palettes and holds it against `fileSize`, the size of the whole file in
-/// bytes. Fault: NotAPaletteList, also for an empty list; `count` is then left alone.
+/// Reads the number of palettes and checks it against `fileSize`, the size of the whole file in
+/// bytes. Fault: NotAPaletteList, also for an empty list; `count` is then unchanged.
 [[nodiscard]] Fault checkPaletteList(std::span<const std::uint8_t, kListHeadSize> head,
                                      std::int64_t fileSize, int& count);
 
-/// Reads the `count` records that follow the head. Fault: NotAPaletteList; `palettes` is then left
-/// alone.
+/// Reads the `count` records that follow the head. Fault: NotAPaletteList; `palettes` is then
+/// unchanged.
 [[nodiscard]] Fault readPaletteList(int count, const ReadBytes& read,
                                     std::vector<ListPalette>& palettes);
 

@@ -9,8 +9,8 @@
 
 namespace mill {
 
-/// One palette entry. In memory `Red` comes first; every file stores Blue, Green, Red, Extra, and
-/// whoever reads or writes a file does the exchange. `Extra` has no meaning and is carried along.
+/// One palette entry. In memory `Red` comes first; files store Blue, Green, Red, Extra, and the
+/// code that reads or writes a file swaps them. `Extra` has no meaning and is preserved.
 struct ColourEntry {
   std::uint8_t Red = 0;
   std::uint8_t Green = 0;
@@ -23,9 +23,8 @@ struct ColourEntry {
 inline constexpr int kColours = 256;
 using ColourTable = std::array<ColourEntry, kColours>;
 
-/// The pixel bytes of a picture, left unset when they are made, because whoever makes them fills
-/// them: a picture of 64 MB is touched once and not twice. Without any elements where there isn't
-/// memory for them.
+/// The pixel bytes of a picture. They start uninitialised, since the reader fills them all and a
+/// large picture shouldn't be touched twice. Empty if there isn't enough memory.
 class PixelArray {
  public:
   PixelArray() = default;
@@ -63,8 +62,8 @@ struct BitmapHeader {
   bool operator==(const BitmapHeader&) const = default;
 };
 
-/// The open picture. `Pixels` has one element more than the file has pixel bytes, and that element
-/// is 0; its size doesn't follow later changes of `biSizeImage`.
+/// The open picture. `Pixels` has one element more than the file has pixel bytes, which is 0; its
+/// size doesn't follow later changes of `biSizeImage`.
 struct PictureRecord : BitmapHeader {
   ColourTable Colours{};
   PixelArray Pixels;

@@ -6,16 +6,16 @@
 
 namespace mill {
 
-/// How far a read or write has come, as a percentage that bars show.
+/// The progress of a read or write, as a percentage for a progress bar.
 class ProgressCount {
  public:
   std::int32_t progress = 0;  ///< last percentage shown, 0 to 100
   std::int32_t total = 0;     ///< the amount that counts as 100 percent
   std::int32_t current = 0;   ///< amount reported so far
 
-  /// `times` reports of `num` each, one after the other: `show` is called with every percentage
-  /// that as many single reports would bring, in their order, but once for a run of equal ones, so
-  /// that a report for every byte of a picture costs a hundred steps and not a million.
+  /// Makes `times` reports of `num` each. Calls `show` with every percentage that single reports
+  /// would produce, in the same order, but only once for a run of equal ones: reporting every byte
+  /// of a picture then costs a hundred steps instead of a million.
   template <class Show>
   void report(std::int16_t num, std::int32_t times, Show show) {
     while (times > 0) {
@@ -46,7 +46,7 @@ class ProgressCount {
   std::int32_t reportsWithoutChange(std::int16_t num) const {
     if (num <= 0) return 0;
     if (total <= 0 || progress == 100) return INT32_MAX;
-    // Where the next percentage begins, give or take a rounding; the exact place is beside it.
+    // An estimate of where the next percentage begins; rounding may put it off by one.
     const double edge = (progress + 0.5) / 100 * total;
     auto count = static_cast<std::int64_t>((edge - current) / num);
     while (percentOf(current + (count + 1) * num) == progress) ++count;

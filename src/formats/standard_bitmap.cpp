@@ -11,7 +11,7 @@
 //       22     4  biHeight              54  1024  256 colours: Blue, Green, Red, Extra
 //       26     2  biPlanes            1078        pixels, one byte each
 //
-// Colours and pixels are always taken from these places, whatever bfOffBits and biSize say.
+// Only files of exactly this shape are read: biSize 40, bfOffBits 1078.
 
 #include "formats/standard_bitmap.h"
 
@@ -32,7 +32,7 @@ namespace {
 
 constexpr std::size_t kTypeSize = 2;
 constexpr std::int32_t kInfoHeaderSize = 40;
-/// So that the size of the whole file, and all that is reported of it, is a 32-bit number.
+/// Keeps the size of the whole file, and the sum of its progress reports, within 32 bits.
 constexpr std::int32_t kMaxImageSize = std::numeric_limits<std::int32_t>::max() - kBitmapDataOffset;
 constexpr std::size_t kWriteChunk = 1 << 20;
 static_assert(kWriteChunk > kBitmapDataOffset, "the first write holds headers and colours whole");
@@ -68,7 +68,7 @@ BitmapHeader loadHeader(std::span<const std::uint8_t, kBitmapHeadSize> bytes) {
   return header;
 }
 
-/// `bfType` of another length than 2 is cut, or filled up with 0, so that the fields stay in place.
+/// A `bfType` that isn't two characters long is cut or padded with 0, so the fields stay in place.
 void storeHeader(const BitmapHeader& header, std::span<std::uint8_t, kBitmapHeadSize> bytes) {
   for (std::size_t i = 0; i < kTypeSize; ++i) {
     bytes[i] = i < header.bfType.size() ? static_cast<std::uint8_t>(header.bfType[i]) : 0;
@@ -80,8 +80,8 @@ void storeHeader(const BitmapHeader& header, std::span<std::uint8_t, kBitmapHead
   });
 }
 
-/// Reports every field of a header by its size. `first` is the size of the first report, which may
-/// stand for more than `bfType`.
+/// Reports each header field by its size. `first` is the size of the first report, which may cover
+/// more than `bfType`.
 void reportHeader(std::int16_t first, Progress& progress) {
   progress.report(first);
   std::size_t at = kTypeSize;
@@ -93,20 +93,20 @@ void reportHeader(std::int16_t first, Progress& progress) {
 }
 
 bool isWrongShape(const BitmapHeader& header, std::int64_t fileSize) {
-  // With another header or table the colours stand elsewhere.
+  // Other headers and shorter colour tables put the colours elsewhere.
   if (header.biSize != kInfoHeaderSize || header.bfOffBits != kBitmapDataOffset) return true;
   if (header.biBitCount != 8 || header.biSizeImage < 0) return true;
   if (header.biSizeImage > kMaxImageSize) return true;
   if (fileSize < std::int64_t{kBitmapDataOffset} + header.biSizeImage) return true;
-  // The smallest 32-bit number has its opposite in 64 bits only.
+  // abs(INT32_MIN) overflows 32 bits.
   const std::int64_t width = std::abs(std::int64_t{header.biWidth});
   const std::int64_t height = std::abs(std::int64_t{header.biHeight});
   return header.biCompression == 0 && width * height > header.biSizeImage;
 }
 
-/// Where the pixels of an output file stand in `Pixels`, row by row.
+/// How the rows of an output file are laid out in `Pixels`.
 struct RowLayout {
-  std::int64_t rows;      ///< how many, written from the last one to the first
+  std::int64_t rows;      ///< number of rows, written last to first
   std::int64_t rowBytes;  ///< bytes of each row in the output
   std::int64_t stride;    ///< elements of `Pixels` from one row to the next
 
@@ -117,7 +117,7 @@ RowLayout rowLayout(const PictureRecord& record, RowOrder order) {
   if (order == RowOrder::AsStored) {
     return {.rows = 1, .rowBytes = std::max(record.biSizeImage, 0), .stride = 0};
   }
-  // A bitmap may have negative sizes where its rows run the other way. It has no rows from 0 on.
+  // Negative sizes mean that rows run the other way; nothing is left to turn around then.
   const std::int32_t width = std::max(record.biWidth, 0);
   const std::int64_t padding = rowPadding(width, record.biHeight, record.biSizeImage);
   return {.rows = std::max(record.biHeight, 0),
@@ -125,9 +125,8 @@ RowLayout rowLayout(const PictureRecord& record, RowOrder order) {
           .stride = std::max<std::int64_t>(width + padding, 0)};
 }
 
-/// Collects the bytes of an output file and writes them in large pieces, a small file in one.
-/// Headers and colours come first and are always in the first piece. Every piece is reported
-/// once it is written.
+/// Buffers the bytes of an output file and writes them in large pieces, a small file in one. The
+/// first piece always holds the headers and colours. Each piece is reported after it is written.
 class Output {
  public:
   Output(std::int64_t fileSize, const WriteBytes& write, Progress& progress)
@@ -149,7 +148,7 @@ class Output {
 
   bool putPixels(std::span<const std::uint8_t> pixels) {
     while (!pixels.empty()) {
-      // A run that would fill the whole staging buffer needn't pass through it.
+      // Pixels that would fill the whole buffer are written straight from the record.
       if (used_ == 0 && pixels.size() >= capacity_) {
         if (!writePiece(pixels.first(capacity_))) return false;
         pixels = pixels.subspan(capacity_);

@@ -17,28 +17,27 @@ inline constexpr int kBitmapDataOffset = kBitmapHeadSize + 4 * kColours;
 /// True for the two characters that a standard bitmap begins with, "BM" or "bm".
 bool isStandardBitmap(std::span<const std::uint8_t, 2> magic);
 
-/// Reads the headers and says whether a complete table of 256 colours and `biSizeImage` bytes of
-/// pixels follow them in a file of `fileSize` bytes. Fault: WrongShape; `header` is then left
-/// alone.
+/// Reads the headers and checks that a table of 256 colours and `biSizeImage` bytes of pixels
+/// follow them in a file of `fileSize` bytes. Fault: WrongShape; `header` is then unchanged.
 [[nodiscard]] Fault checkStandardHead(std::span<const std::uint8_t, kBitmapHeadSize> bytes,
                                       std::int64_t fileSize, BitmapHeader& header);
 
-/// Reads what follows the headers, colours and pixels in file order, and fills `record`, palette
-/// index 0 included. Fault: PictureUnreadable; `record` is then left alone.
+/// Reads the colours and the pixels that follow the headers into `record`, with palette index 0.
+/// Fault: PictureUnreadable; `record` is then unchanged.
 [[nodiscard]] Fault readStandardBitmap(const BitmapHeader& header, const ReadBytes& read,
                                        PictureRecord& record, Progress& progress);
 
-/// Gives a record that came from a Kestrel Bitmap the header of its output file.
+/// Fills in the output header of a record that came from a Kestrel Bitmap.
 void fillOutputHeader(BitmapHeader& header);
 
-/// In which order the rows of `Pixels` go to a file: as they stand, or the last one first.
+/// The order in which the rows of `Pixels` are written: as stored, or last row first.
 enum class RowOrder { AsStored, BottomUp };
 
 /// The size in bytes of what `writeStandardBitmap` writes.
 std::int64_t standardBitmapSize(const PictureRecord& record, RowOrder rows);
 
-/// Writes header, colours and pixels of `record`. Pixels that the last rows ask for and the record
-/// doesn't have are byte 0. False where `write` failed.
+/// Writes header, colours and pixels of `record`. Pixels missing at the end of the record are
+/// written as 0. False if `write` fails.
 [[nodiscard]] bool writeStandardBitmap(const PictureRecord& record, RowOrder rows,
                                        const WriteBytes& write, Progress& progress);
 

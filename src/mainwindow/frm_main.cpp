@@ -5,10 +5,9 @@
 #include "mainwindow/program_settings.h"
 #include "palette/frm_pal_select.h"
 #include "palette/frm_pal_toolbar.h"
-#include "picture/find_palette.h"
+#include "picture/hooks.h"
 #include "picture/load_palette.h"
-#include "picture/program_state.h"
-#include "platform/forms/application.h"
+#include "platform/system/application.h"
 #include "platform/system/files.h"
 
 namespace mill {
@@ -16,22 +15,24 @@ namespace mill {
 MainForm::MainForm()
     : Form({.Name = "frmMain",
             .Caption = "Raster Mill",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {8535, 4815},
             .Position = forms::StartUpPosition::CentreScreen,
             .MinButton = true,
-            .Icon = true}) {}
+            .Icon = true}) {
+  // Qt alternates between ambiguous mnemonics; the menu "File" keeps this one.
+  cmdInfo->setShortcut({});
+}
 
 void MainForm::Form_Load() {
   readSettings();
-  if (!forms::hasFiles(state.SourceDir)) state.SourceDir = forms::App.Path();
-  frmConvert.Load();
-  frmConvert->sourceDirectory = [this] { return filSource.Path(); };
-  frmConvert->destinationDirectory = [this] { return lstDest.Text(); };
-  frmPalToolbar.Load();
-  frmPreviewToolbar.Load();
-  choosePalette = selectPalette;
-  showPaletteFile = [this] { lblPalFile.setCaption(state.CurrentPaletteFile); };
+  if (!sys::hasFiles(state.SourceDir)) state.SourceDir = sys::App.Path();
+  frmConvert.load();
+  frmConvert->sourceDirectory = [this] { return filSource->Path(); };
+  frmConvert->destinationDirectory = [this] { return lstDest->Text(); };
+  frmPalToolbar.load();
+  frmPreviewToolbar.load();
+  hooks.choosePalette = selectPalette;
+  hooks.showPaletteFile = [this] { lblPalFile->showText(state.CurrentPaletteFile); };
   fillBoxes();
   loadDefaultPalette();
   setCheckBoxes();
@@ -43,46 +44,40 @@ void MainForm::fillBoxes() {
     box.AddItem(value);
     box.setText(value);
   };
-  fill(lstSource, state.SourceDir);
-  fill(lstDest, state.DestDir);
-  fill(lstPalette, state.PalDir);
-  fill(lstDefault, state.DefaultPalette);
+  fill(*lstSource, state.SourceDir);
+  fill(*lstDest, state.DestDir);
+  fill(*lstPalette, state.PalDir);
+  fill(*lstDefault, state.DefaultPalette);
 }
 
 void MainForm::loadDefaultPalette() {
   state.CurrentPaletteFile = state.DefaultPalette;
   LoadPalette();
-  showPaletteFile();
+  hooks.showPaletteFile();
 }
 
 void MainForm::setCheckBoxes() {
-  chkPal.setValue(state.ShowPal);
-  chkPrev.setValue(state.ShowPrev);
-  chkAutoPrev.setValue(state.AutoPrev);
-  chkAutoPal.setValue(state.AutoPal);
-  chkResize.setValue(state.ResizeFit);
-  chkSearch.setValue(state.Search);
+  chkPal->setChecked(state.ShowPal);
+  chkPrev->setChecked(state.ShowPrev);
+  chkAutoPrev->setChecked(state.AutoPrev);
+  chkAutoPal->setChecked(state.AutoPal);
+  chkResize->setChecked(state.ResizeFit);
+  chkSearch->setChecked(state.Search);
 }
 
 void MainForm::Form_Unload() {
   // The last loaded goes first; this window is the first of all.
-  for (int i = forms::Forms.Count() - 1; i >= 1; --i) forms::Forms[i].Unload();
-  choosePalette = {};
-  showPaletteFile = {};
+  while (loaded().size() > 1) loaded().back()->Unload();
+  hooks = {};
   state.PreviewDC.reset();
   writeSettings();
 }
 
 void MainForm::Form_Resize() {
-  const auto eachToolWindow = [](auto act) {
-    if (state.ShowPal) act(*frmPalToolbar);
-    if (state.ShowPrev) act(*frmPreviewToolbar);
-  };
-  if (WindowState() == forms::WindowState::Minimised) {
-    eachToolWindow([](forms::Form& window) { window.Hide(); });
-  } else if (WindowState() == forms::WindowState::Normal) {
-    eachToolWindow([](forms::Form& window) { window.Show(); });
-  }
+  if (isMaximized()) return;
+  // The tool windows go and come with this one.
+  if (state.ShowPal) frmPalToolbar->setVisible(!isMinimized());
+  if (state.ShowPrev) frmPreviewToolbar->setVisible(!isMinimized());
 }
 
 }  // namespace mill

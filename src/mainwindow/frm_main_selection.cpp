@@ -7,12 +7,12 @@
 namespace mill {
 
 void MainForm::warnIfDirectoriesAreOne() {
-  if (lstDest.Text() == lstSource.Text()) warn(Fault::SameDirectory);
+  if (lstDest->Text() == lstSource->Text()) warn(Fault::SameDirectory);
 }
 
 void MainForm::lstSource_Change() {
   warnIfDirectoriesAreOne();
-  filSource.setPath(lstSource.Text());
+  filSource->setPath(lstSource->Text());
 }
 
 void MainForm::filSource_Click() {
@@ -25,17 +25,14 @@ void MainForm::filSource_Click() {
 }
 
 void MainForm::recordSelection() {
-  std::size_t count = 0;
-  for (int i = 0; i < filSource.ListCount(); ++i) {
-    if (!filSource.Selected(i)) continue;
-    state.SelectedFiles.resize(++count);
-    state.SelectedFiles.back() = filSource.List(i);
-  }
-  state.SelectedCount = static_cast<std::int32_t>(count);
+  std::vector<std::string> names = filSource->selectedNames();
+  state.SelectedCount = static_cast<std::int32_t>(names.size());
+  // Without any, the names stay, and only the count says that they are none.
+  if (!names.empty()) state.SelectedFiles = std::move(names);
 }
 
 void MainForm::offerCommandsForOne() {
-  if (state.PictureFileName != filSource.FileName()) {
+  if (state.PictureFileName != filSource->FileName()) {
     enableOpen(true);
     enableConvert(true);
     enableInfo(false);
@@ -50,12 +47,12 @@ void MainForm::offerCommandsForOne() {
 }
 
 void MainForm::filSource_DblClick() {
-  if (state.SelectedCount == 1 && state.PictureFileName == filSource.FileName() &&
+  if (state.SelectedCount == 1 && state.PictureFileName == filSource->FileName() &&
       !state.IsStandardBitmap) {
     cmdConvert_Click();
   }
   // A conversion leaves no picture open, so that the same file is opened again here.
-  if (state.SelectedCount == 1 && state.PictureFileName != filSource.FileName()) cmdOpen_Click();
+  if (state.SelectedCount == 1 && state.PictureFileName != filSource->FileName()) cmdOpen_Click();
 }
 
 void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::string& directory) {
@@ -66,22 +63,22 @@ void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::s
 }
 
 void MainForm::cmdSourceBrowse_Click() {
-  chooseDirectory("Browse for Source Directory", lstSource, state.SourceDir);
+  chooseDirectory("Browse for Source Directory", *lstSource, state.SourceDir);
 }
 
 void MainForm::cmdDestBrowse_Click() {
-  chooseDirectory("Browse for Destination Directory", lstDest, state.DestDir);
+  chooseDirectory("Browse for Destination Directory", *lstDest, state.DestDir);
 }
 
 void MainForm::cmdBrowsePal_Click() {
-  chooseDirectory("Browse for Palette Directory", lstPalette, state.PalDir);
+  chooseDirectory("Browse for Palette Directory", *lstPalette, state.PalDir);
 }
 
 void MainForm::cmdBrowseDefault_Click() {
-  browseForPalette(lstDefault.Text(), *this);
+  browseForPalette(lstDefault->Text(), *this);
   if (state.BrowseResult.empty() || state.FileResult.empty()) return;
-  state.FileResult = forms::join(state.BrowseResult, state.FileResult);
-  lstDefault.pick(state.FileResult);
+  state.FileResult = sys::join(state.BrowseResult, state.FileResult);
+  lstDefault->pick(state.FileResult);
   state.DefaultPalette = state.FileResult;
 }
 

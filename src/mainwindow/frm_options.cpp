@@ -5,6 +5,7 @@
 #include "picture/warn.h"
 #include "platform/forms/msg_box.h"
 #include "platform/system/paths.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
@@ -25,62 +26,61 @@ bool mayBeUsed(const std::string& source, const std::string& dest) {
 OptionsForm::OptionsForm()
     : Form({.Name = "frmOptions",
             .Caption = "Options",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {6240, 3090},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {}
 
 void OptionsForm::Form_Load() {
   showDirectories();
-  txtPalette.setText(state.DefaultPalette);
-  cmdApply.setEnabled(false);  // which filling the boxes has enabled
+  txtPalette->setText(sys::shown(state.DefaultPalette));
+  cmdApply->setEnabled(false);  // which filling the boxes has enabled
 }
 
 void OptionsForm::showDirectories() {
-  txtSource.setText(state.SourceDir);
-  txtDest.setText(state.DestDir);
+  txtSource->setText(sys::shown(state.SourceDir));
+  txtDest->setText(sys::shown(state.DestDir));
 }
 
 void OptionsForm::storeDirectories() {
-  state.SourceDir = txtSource.Text();
-  state.DestDir = txtDest.Text();
+  state.SourceDir = sys::bytesOf(txtSource->text());
+  state.DestDir = sys::bytesOf(txtDest->text());
 }
 
 void OptionsForm::cmdOK_Click() {
-  if (!mayBeUsed(txtSource.Text(), txtDest.Text())) return showDirectories();
+  if (!mayBeUsed(sys::bytesOf(txtSource->text()), sys::bytesOf(txtDest->text())))
+    return showDirectories();
   storeDirectories();
-  state.DefaultPalette = txtPalette.Text();
+  state.DefaultPalette = sys::bytesOf(txtPalette->text());
   Unload();
 }
 
 /// The palette is stored whatever becomes of the directories.
 void OptionsForm::cmdApply_Click() {
-  if (mayBeUsed(txtSource.Text(), txtDest.Text())) storeDirectories();
+  if (mayBeUsed(sys::bytesOf(txtSource->text()), sys::bytesOf(txtDest->text()))) storeDirectories();
   showDirectories();
-  state.DefaultPalette = txtPalette.Text();
-  cmdApply.setEnabled(false);
+  state.DefaultPalette = sys::bytesOf(txtPalette->text());
+  cmdApply->setEnabled(false);
 }
 
-void OptionsForm::chooseDirectory(const char* caption, forms::TextBox& box,
-                                  const forms::TextBox& other) {
-  browseForDirectory(caption, box.Text(), *this);
+void OptionsForm::chooseDirectory(const char* caption, QLineEdit& box, const QLineEdit& other) {
+  browseForDirectory(caption, sys::bytesOf(box.text()), *this);
   // Asked after a Cancel too, which equals an empty box.
-  const bool usable = mayBeUsed(state.BrowseResult, other.Text());
-  if (usable && !state.BrowseResult.empty()) box.setText(state.BrowseResult);
+  const bool usable = mayBeUsed(state.BrowseResult, sys::bytesOf(other.text()));
+  if (usable && !state.BrowseResult.empty()) box.setText(sys::shown(state.BrowseResult));
 }
 
 void OptionsForm::cmdSourceBrowse_Click() {
-  chooseDirectory("Browse for Source Directory", txtSource, txtDest);
+  chooseDirectory("Browse for Source Directory", *txtSource, *txtDest);
 }
 
 void OptionsForm::cmdDestBrowse_Click() {
-  chooseDirectory("Browse for Destination Directory", txtDest, txtSource);
+  chooseDirectory("Browse for Destination Directory", *txtDest, *txtSource);
 }
 
 void OptionsForm::cmdPalBrowse_Click() {
-  browseForPalette(txtPalette.Text(), *this);
+  browseForPalette(sys::bytesOf(txtPalette->text()), *this);
   if (state.BrowseResult.empty()) return;
-  txtPalette.setText(forms::join(state.BrowseResult, state.FileResult));
+  txtPalette->setText(sys::shown(sys::join(state.BrowseResult, state.FileResult)));
 }
 
 }  // namespace mill

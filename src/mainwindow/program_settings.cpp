@@ -5,7 +5,7 @@
 
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/forms/application.h"
+#include "platform/system/application.h"
 #include "platform/system/paths.h"
 #include "platform/system/settings.h"
 
@@ -28,11 +28,11 @@ struct FlagSetting {
 };
 
 std::vector<PathSetting> pathSettings() {
-  const std::string data = forms::join(forms::App.Path(), "data");
+  const std::string data = sys::join(sys::App.Path(), "data");
   return {{"Source", &ProgramState::SourceDir, "C:\\Brightforge\\Ironveil"},
           {"Dest", &ProgramState::DestDir, data},
           {"PalDir", &ProgramState::PalDir, data},
-          {"Palette", &ProgramState::DefaultPalette, forms::join(data, "base.pal")}};
+          {"Palette", &ProgramState::DefaultPalette, sys::join(data, "base.pal")}};
 }
 
 constexpr FlagSetting kFlags[] = {
@@ -43,25 +43,20 @@ constexpr FlagSetting kFlags[] = {
 }  // namespace
 
 void readSettings() {
-  const char* app = forms::App.Title;
+  const sys::Settings store(sys::App.Title, kSection);
   for (const PathSetting& path : pathSettings()) {
-    state.*path.value = forms::GetSetting(app, kSection, path.key, path.fallback);
+    state.*path.value = store.text(path.key, path.fallback);
   }
   for (const FlagSetting& flag : kFlags) {
-    state.*flag.value = forms::GetFlag(app, kSection, flag.key, flag.fallback);
+    state.*flag.value = store.flag(flag.key, flag.fallback);
   }
 }
 
 void writeSettings() {
-  const char* app = forms::App.Title;
-  bool saved = true;
-  for (const PathSetting& path : pathSettings()) {
-    saved &= forms::SaveSetting(app, kSection, path.key, state.*path.value);
-  }
-  for (const FlagSetting& flag : kFlags) {
-    saved &= forms::SaveFlag(app, kSection, flag.key, state.*flag.value);
-  }
-  if (!saved) warn("The settings can't be saved.\n" + forms::settingsFile(app));
+  sys::Settings store(sys::App.Title, kSection);
+  for (const PathSetting& path : pathSettings()) store.setText(path.key, state.*path.value);
+  for (const FlagSetting& flag : kFlags) store.setFlag(flag.key, state.*flag.value);
+  if (!store.save()) warn("The settings can't be saved.\n" + store.file());
 }
 
 }  // namespace mill

@@ -3,19 +3,19 @@
 #include "conversion/show_preview.h"
 #include "dialogs/frm_save.h"
 #include "palette/frm_pal_extract.h"
-#include "palette/show_colours.h"
+#include "palette/number_text.h"
 #include "picture/load_palette.h"
 #include "picture/program_state.h"
-#include "platform/system/number_text.h"
 #include "platform/system/paths.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
 namespace {
 
 /// A number outside the range of a byte counts as the nearest one inside.
-std::uint8_t byteOf(const forms::TextBox& box) {
-  return static_cast<std::uint8_t>(forms::numberOf(box.Text(), 0, 255));
+std::uint8_t byteOf(const QLineEdit& box) {
+  return static_cast<std::uint8_t>(numberOf(sys::bytesOf(box.text()), 0, 255));
 }
 
 std::uint8_t inverse(std::uint8_t value) {
@@ -26,66 +26,66 @@ ColourEntry inverse(const ColourEntry& colour) {
   return {inverse(colour.Red), inverse(colour.Green), inverse(colour.Blue), colour.Extra};
 }
 
-void paint(forms::Label& patch, const ColourEntry& colour) {
-  patch.setBackColor(colour.Red, colour.Green, colour.Blue);
-}
-
 }  // namespace
 
 ColourForm::ColourForm()
     : Form({.Name = "frmColour",
             .Caption = " View/Edit Palette",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {5415, 5655},
             .Position = forms::StartUpPosition::CentreOwner,
-            .ControlBox = false}) {}
+            .ControlBox = false}) {
+  cmdOK->setFocus();  // Enter at once means OK
+}
 
 void ColourForm::Form_Load() {
   WorkingPalette = state.PaletteTable;
-  showColours(palette1, WorkingPalette);
-  txtIndex.setText("0");
+  palette1->setColours(WorkingPalette);
+  txtIndex->setText(QStringLiteral("0"));
 }
 
 void ColourForm::showColour(int index) {
-  txtIndex.setText(std::to_string(index));
-  const ColourEntry colour = WorkingPalette[static_cast<std::size_t>(index)];
-  paint(lblOrginal, colour);
-  paint(lblCurrent, colour);
-  txtRed.setText(std::to_string(colour.Red));
-  txtGreen.setText(std::to_string(colour.Green));
-  txtBlue.setText(std::to_string(colour.Blue));
+  const QString number = QString::number(index);
+  if (txtIndex->text() != number) txtIndex->setText(number);  // which moves the cursor
+  palette1->setCurrent(index);
+  const ColourEntry entry = WorkingPalette[static_cast<std::size_t>(index)];
+  lblOrginal->setColour(entry);
+  lblCurrent->setColour(entry);
+  showNumbers(entry);
+}
+
+void ColourForm::showNumbers(const ColourEntry& entry) {
+  txtRed->setText(QString::number(entry.Red));
+  txtGreen->setText(QString::number(entry.Green));
+  txtBlue->setText(QString::number(entry.Blue));
 }
 
 void ColourForm::newColour() {
-  paint(lblCurrent, boxColour());
+  lblCurrent->setColour(boxColour());
 }
 
 void ColourForm::txtIndex_Change() {
-  showColour(byteOf(txtIndex));
+  showColour(byteOf(*txtIndex));
 }
 
 ColourEntry ColourForm::boxColour() const {
-  return {.Red = byteOf(txtRed), .Green = byteOf(txtGreen), .Blue = byteOf(txtBlue)};
+  return {.Red = byteOf(*txtRed), .Green = byteOf(*txtGreen), .Blue = byteOf(*txtBlue)};
 }
 
 void ColourForm::cmdNew_Click() {
-  const std::uint8_t index = byteOf(txtIndex);
+  const std::uint8_t index = byteOf(*txtIndex);
   ColourEntry colour = boxColour();
   colour.Extra = WorkingPalette[index].Extra;
   WorkingPalette[index] = colour;
-  showColours(palette1, WorkingPalette);
+  palette1->setColours(WorkingPalette);
 }
 
 void ColourForm::cmdInvert_Click() {
-  const ColourEntry proposal = inverse(boxColour());
-  txtRed.setText(std::to_string(proposal.Red));
-  txtGreen.setText(std::to_string(proposal.Green));
-  txtBlue.setText(std::to_string(proposal.Blue));
+  showNumbers(inverse(boxColour()));
 }
 
 void ColourForm::cmdInvertAll_Click() {
   for (ColourEntry& colour : WorkingPalette) colour = inverse(colour);
-  showColours(palette1, WorkingPalette);
+  palette1->setColours(WorkingPalette);
 }
 
 std::string ColourForm::pickFile(const char* caption) {
@@ -94,11 +94,11 @@ std::string ColourForm::pickFile(const char* caption) {
   state.BrowseResult = state.DefaultPalette;
   state.FilePattern = "*.pal";
   frmSave->setCaption(caption);
-  frmSave->Show(forms::vbModal, *this);
+  frmSave->showModal(this);
   // The close box unloads the dialog and leaves the names as they were; that chooses nothing.
   const bool chosen =
       frmSave.isLoaded() && !state.BrowseResult.empty() && !state.FileResult.empty();
-  if (chosen) return forms::join(state.BrowseResult, state.FileResult);
+  if (chosen) return sys::join(state.BrowseResult, state.FileResult);
   keepFile();
   return {};
 }
@@ -114,7 +114,7 @@ void ColourForm::cmdLoad_Click() {
   std::string head;  // dropped: a file saved here gets that of the palette in use
   if (!readPaletteFile(path, head, WorkingPalette)) return keepFile();
   hasFile_ = true;
-  showColours(palette1, WorkingPalette);
+  palette1->setColours(WorkingPalette);
 }
 
 void ColourForm::cmdSave_Click() {
@@ -126,12 +126,12 @@ void ColourForm::cmdSave_Click() {
 }
 
 void ColourForm::cmdExtract_Click() {
-  frmPalExtract->Show(forms::vbModal, *this);
+  frmPalExtract->showModal(this);
 }
 
 void ColourForm::cmdOK_Click() {
   if (hasFile_) {
-    state.CurrentPaletteFile = forms::join(state.BrowseResult, state.FileResult);
+    state.CurrentPaletteFile = sys::join(state.BrowseResult, state.FileResult);
     LoadPalette();
     if (!state.PictureFileName.empty() && state.ShowPrev) renewPreview();
   }

@@ -3,10 +3,10 @@
 #include <string>
 
 #include "formats/picture_record.h"
-#include "platform/forms/controls.h"
+#include "palette/patch.h"
+#include "palette/up_down.h"
 #include "platform/forms/form.h"
-#include "platform/forms/swatch_grid.h"
-#include "platform/forms/up_down.h"
+#include "platform/forms/swatches.h"
 
 namespace mill {
 
@@ -25,7 +25,6 @@ class ColourForm final : public forms::Form {
   void Form_Load() override;
   void txtIndex_Change();
   void cmdOK_Click();
-  void cmdCancel_Click() { Unload(); }
   void cmdExtract_Click();
   void cmdLoad_Click();
   void cmdSave_Click();
@@ -34,6 +33,7 @@ class ColourForm final : public forms::Form {
   void cmdNew_Click();
 
   ColourEntry boxColour() const;
+  void showNumbers(const ColourEntry& entry);
   /// Lets the user pick a file; its full path, empty on Cancel.
   std::string pickFile(const char* caption);
   /// Puts back the names of the file that counted before `pickFile`.
@@ -45,49 +45,35 @@ class ColourForm final : public forms::Form {
   std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `pickFile`
   std::string nameBefore_;
 
-  forms::SwatchGrid palette1{*this, "palette1", 120, 120, 240, &ColourForm::showColour};
+  // clang-format off
+  forms::Swatches* palette1     = add<forms::Swatches>("palette1",             { 120,  120, 3855, 3855}, [this](int index) { showColour(index); });
+  QPushButton*     cmdOK        = button("cmdOK",        "OK",                 {4035,  120, 1320,  375}, [this] { cmdOK_Click(); }, forms::Default);
+  QPushButton*     cmdCancel    = button("cmdCancel",    "Cancel",             {4035,  600, 1320,  375}, [this] { Unload(); },      forms::Cancel);
+  QPushButton*     cmdExtract   = button("cmdExtract",   "Extract Palette",    {4035, 1080, 1320,  375}, [this] { cmdExtract_Click(); });
+  QPushButton*     cmdLoad      = button("cmdLoad",      "Load Palette",       {4035, 1560, 1320,  375}, [this] { cmdLoad_Click(); });
+  QPushButton*     cmdSave      = button("cmdSave",      "Save Palette",       {4035, 2040, 1320,  375}, [this] { cmdSave_Click(); });
+  QPushButton*     cmdInvertAll = button("cmdInvertAll", "Invert All Colours", {4035, 2520, 1320,  375}, [this] { cmdInvertAll_Click(); });
+  QPushButton*     cmdInvert    = button("cmdInvert",    "Invert Colour",      {4035, 3000, 1320,  375}, [this] { cmdInvert_Click(); });
+  QPushButton*     cmdNew       = button("cmdNew",       "Set New Colour",     {4035, 3480, 1320,  375}, [this] { cmdNew_Click(); });
 
-  forms::CommandButton cmdOK{
-      *this, "cmdOK", "OK", {4035, 120, 1320, 375}, &ColourForm::cmdOK_Click, forms::Default};
-  forms::CommandButton cmdCancel{
-      *this,        "cmdCancel", "Cancel", {4035, 600, 1320, 375}, &ColourForm::cmdCancel_Click,
-      forms::Cancel};
-  forms::CommandButton cmdExtract{*this,
-                                  "cmdExtract",
-                                  "Extract Palette",
-                                  {4035, 1080, 1320, 375},
-                                  &ColourForm::cmdExtract_Click};
-  forms::CommandButton cmdLoad{
-      *this, "cmdLoad", "Load Palette", {4035, 1560, 1320, 375}, &ColourForm::cmdLoad_Click};
-  forms::CommandButton cmdSave{
-      *this, "cmdSave", "Save Palette", {4035, 2040, 1320, 375}, &ColourForm::cmdSave_Click};
-  forms::CommandButton cmdInvertAll{*this,
-                                    "cmdInvertAll",
-                                    "Invert All Colours",
-                                    {4035, 2520, 1320, 375},
-                                    &ColourForm::cmdInvertAll_Click};
-  forms::CommandButton cmdInvert{
-      *this, "cmdInvert", "Invert Colour", {4035, 3000, 1320, 375}, &ColourForm::cmdInvert_Click};
-  forms::CommandButton cmdNew{
-      *this, "cmdNew", "Set New Colour", {4035, 3480, 1320, 375}, &ColourForm::cmdNew_Click};
+  QLabel*          lblRed       = label      ("lblRed",   "Red:",   { 120, 4125, 555, 195});
+  QLineEdit*       txtRed       = lineEdit   ("txtRed",             { 720, 4080, 615, 285}, lblRed, [this] { newColour(); });
+  UpDown*          updRed       = add<UpDown>("updRed",             {1335, 4080, 240, 285}, txtRed, 0, 255);
+  QLabel*          lblGreen     = label      ("lblGreen", "Green:", { 120, 4500, 555, 195});
+  QLineEdit*       txtGreen     = lineEdit   ("txtGreen",           { 720, 4455, 615, 285}, lblGreen, [this] { newColour(); });
+  UpDown*          updGreen     = add<UpDown>("updGreen",           {1335, 4455, 240, 285}, txtGreen, 0, 255);
+  QLabel*          lblBlue      = label      ("lblBlue",  "Blue:",  { 120, 4875, 555, 195});
+  QLineEdit*       txtBlue      = lineEdit   ("txtBlue",            { 720, 4830, 615, 285}, lblBlue, [this] { newColour(); });
+  UpDown*          updBlue      = add<UpDown>("updBlue",            {1335, 4830, 240, 285}, txtBlue, 0, 255);
+  QLabel*          lblIndex     = label      ("lblIndex", "Index:", { 120, 5250, 555, 195});
+  QLineEdit*       txtIndex     = lineEdit   ("txtIndex",           { 720, 5205, 615, 285}, lblIndex, [this] { txtIndex_Change(); });
+  UpDown*          updIndex     = add<UpDown>("updIndex",           {1335, 5205, 240, 285}, txtIndex, 0, 255);
 
-  forms::Label lblRed{*this, "lblRed", "Red:", {120, 4125, 555, 195}};
-  forms::TextBox txtRed{*this, "txtRed", {720, 4080, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updRed{*this, "updRed", {1335, 4080, 240, 285}, txtRed, 0, 255};
-  forms::Label lblGreen{*this, "lblGreen", "Green:", {120, 4500, 555, 195}};
-  forms::TextBox txtGreen{*this, "txtGreen", {720, 4455, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updGreen{*this, "updGreen", {1335, 4455, 240, 285}, txtGreen, 0, 255};
-  forms::Label lblBlue{*this, "lblBlue", "Blue:", {120, 4875, 555, 195}};
-  forms::TextBox txtBlue{*this, "txtBlue", {720, 4830, 615, 285}, &ColourForm::newColour};
-  forms::UpDown updBlue{*this, "updBlue", {1335, 4830, 240, 285}, txtBlue, 0, 255};
-  forms::Label lblIndex{*this, "lblIndex", "Index:", {120, 5250, 555, 195}};
-  forms::TextBox txtIndex{*this, "txtIndex", {720, 5205, 615, 285}, &ColourForm::txtIndex_Change};
-  forms::UpDown updIndex{*this, "updIndex", {1335, 5205, 240, 285}, txtIndex, 0, 255};
-
-  forms::Frame Frame1{*this, "Frame1", "Current", {1800, 4080, 1215, 1410}};
-  forms::Label lblCurrent{Frame1, "lblCurrent", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
-  forms::Frame Frame2{*this, "Frame2", "Orginal", {3120, 4080, 1215, 1410}};
-  forms::Label lblOrginal{Frame2, "lblOrginal", "", {120, 315, 975, 975}, forms::LabelStyle::Patch};
+  forms::Frame*    Frame1       = frame("Frame1", "Current",  {1800, 4080, 1215, 1410});
+  Patch*           lblCurrent   = Frame1->add<Patch>("lblCurrent", { 120,  315,  975,  975});
+  forms::Frame*    Frame2       = frame("Frame2", "Orginal",  {3120, 4080, 1215, 1410});
+  Patch*           lblOrginal   = Frame2->add<Patch>("lblOrginal", { 120,  315,  975,  975});
+  // clang-format on
 };
 
 inline forms::Global<ColourForm> frmColour;

@@ -1,25 +1,27 @@
 #include "palette/frm_pal_extract.h"
 
+#include <QFileDialog>
+
 #include <algorithm>
 #include <array>
 
 #include "dialogs/browse.h"
 #include "formats/fault.h"
-#include "palette/show_colours.h"
 #include "picture/load_palette.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/forms/msg_box.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
 namespace {
 
 Fault readList(const std::string& path, std::vector<ListPalette>& palettes) {
-  if (!forms::isNormalFile(path)) return Fault::PaletteListMissing;
-  forms::InputFile file(path);
+  if (!sys::isNormalFile(path)) return Fault::PaletteListMissing;
+  sys::InputFile file(path);
   std::array<std::uint8_t, kListHeadSize> head{};
   if (!file.isOpen() || !file.read(head)) return Fault::NotAPaletteList;
   int count = 0;
@@ -33,7 +35,7 @@ Fault readList(const std::string& path, std::vector<ListPalette>& palettes) {
 std::string baseName(const std::string& listFile) {
   const std::string withoutEnd =
       listFile.substr(0, listFile.size() - std::min<std::size_t>(4, listFile.size()));
-  return std::string(forms::fileNameOf(withoutEnd));
+  return std::string(sys::fileNameOf(withoutEnd));
 }
 
 }  // namespace
@@ -41,32 +43,36 @@ std::string baseName(const std::string& listFile) {
 PalExtractForm::PalExtractForm()
     : Form({.Name = "frmPalExtract",
             .Caption = "Palette Extractor",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {4935, 6495},
             .Position = forms::StartUpPosition::CentreOwner}) {}
 
 void PalExtractForm::showPalette() {
-  showColours(palette1, onShow().Entries);
-  txtIndex.setText(std::to_string(onShow().Index));
+  palette1->setColours(onShow().Entries);
+  txtIndex->setText(QString::number(onShow().Index));
 }
 
 void PalExtractForm::cmdSourceBrowse_Click() {
-  if (!CDlg1.ShowOpen(state.PalDir)) return;
-  ListFile = CDlg1.FileName();
-  lstSource.AddItem(ListFile);
-  lstSource.setText(ListFile);
+  QFileDialog dialog(this, QStringLiteral("Find KSL files"),
+                     sys::shown(sys::nativePath(state.PalDir).string()),
+                     QStringLiteral("KSL files (*.ksl)"));
+  dialog.setObjectName(QStringLiteral("CDlg1"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted) return;
+  ListFile = sys::drivePath(sys::bytesOf(dialog.selectedFiles().value(0)));
+  lstSource->AddItem(ListFile);
+  lstSource->setText(ListFile);
 }
 
 void PalExtractForm::lstSource_Change() {
-  cmdLoad.setEnabled(true);
+  cmdLoad->setEnabled(true);
   ListLoaded = false;
-  cmdPrev.setEnabled(false);
-  cmdNext.setEnabled(false);
-  cmdSave.setEnabled(false);
+  cmdPrev->setEnabled(false);
+  cmdNext->setEnabled(false);
+  cmdSave->setEnabled(false);
 }
 
 void PalExtractForm::lstSource_Click() {
-  ListFile = lstSource.Text();
+  ListFile = lstSource->Text();
   lstSource_Change();
 }
 
@@ -75,24 +81,24 @@ void PalExtractForm::cmdLoad_Click() {
     return warn(fault);
   }
   const auto count = static_cast<int>(ListPalettes.size());
-  txtNumber.setText(std::to_string(count));
+  txtNumber->setText(QString::number(count));
   ListPosition = static_cast<std::int16_t>(std::min<int>(ListPosition, count - 1));
   showPalette();
-  cmdPrev.setEnabled(true);
-  cmdNext.setEnabled(true);
-  if (!lstDest.Text().empty()) cmdSave.setEnabled(true);
+  cmdPrev->setEnabled(true);
+  cmdNext->setEnabled(true);
+  if (!lstDest->Text().empty()) cmdSave->setEnabled(true);
   ListLoaded = true;
-  cmdLoad.setEnabled(false);
+  cmdLoad->setEnabled(false);
 }
 
 void PalExtractForm::cmdDestBrowse_Click() {
-  browseForDirectory("Browse for Destination Directory", lstDest.Text(), *this);
-  if (!state.BrowseResult.empty()) lstDest.pick(state.BrowseResult);
+  browseForDirectory("Browse for Destination Directory", lstDest->Text(), *this);
+  if (!state.BrowseResult.empty()) lstDest->pick(state.BrowseResult);
 }
 
 void PalExtractForm::lstDest_Change() {
-  if (!lstDest.Text().empty() && ListLoaded) cmdSave.setEnabled(true);
-  ExtractDir = lstDest.Text();
+  if (!lstDest->Text().empty() && ListLoaded) cmdSave->setEnabled(true);
+  ExtractDir = lstDest->Text();
 }
 
 void PalExtractForm::cmdPrev_Click() {
@@ -108,14 +114,14 @@ void PalExtractForm::cmdNext_Click() {
 }
 
 std::string PalExtractForm::outputDirectory() const {
-  return AddListName ? forms::join(ExtractDir, baseName(ListFile)) : ExtractDir;
+  return AddListName ? sys::join(ExtractDir, baseName(ListFile)) : ExtractDir;
 }
 
 /// False, with a message, where the palette on show couldn't be written.
 bool PalExtractForm::savePalette() const {
   const std::string directory = outputDirectory();
-  const std::string path = forms::join(directory, std::to_string(onShow().Index) + ".pal");
-  if (AddListName && !forms::exists(directory) && !forms::makeDirectory(directory)) {
+  const std::string path = sys::join(directory, std::to_string(onShow().Index) + ".pal");
+  if (AddListName && !sys::exists(directory) && !sys::makeDirectory(directory)) {
     warn(Fault::PaletteUnwritable, path);
     return false;
   }
@@ -123,9 +129,12 @@ bool PalExtractForm::savePalette() const {
 }
 
 void PalExtractForm::cmdSave_Click() {
-  cmdSave.setEnabled(false);
+  // The focus comes back to it, so that the next Enter doesn't mean "Done".
+  const bool hadFocus = cmdSave->hasFocus();
+  cmdSave->setEnabled(false);
   if (savePalette()) forms::MsgBox({.text = "Palette file saved!"});
-  cmdSave.setEnabled(true);
+  cmdSave->setEnabled(true);
+  if (hadFocus) cmdSave->setFocus();
 }
 
 }  // namespace mill

@@ -9,20 +9,22 @@ namespace mill {
 PalSelectForm::PalSelectForm()
     : Form({.Name = "frmPalSelect",
             .Caption = "Palette Selection",
-            .BorderStyle = forms::Border::FixedSingle,
             .Client = {7335, 2655},
             .Position = forms::StartUpPosition::CentreOwner,
-            .ControlBox = false}) {}
+            .ControlBox = false}) {
+  // Long paths differ at their ends.
+  lstPalette->setTextElideMode(Qt::ElideLeft);
+  lstPalette->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
 
 void PalSelectForm::lstPalette_Click() {
-  const bool chosen = lstPalette.SelCount() > 0;
-  cmdOK.setEnabled(chosen);
-  cmdPrev.setEnabled(chosen);
+  const bool isChosen = lstPalette->selectionModel()->hasSelection();
+  for (QPushButton* button : {cmdOK, cmdPrev}) button->setEnabled(isChosen);
 }
 
 void PalSelectForm::cmdPrev_Click() {
   const std::string saved = state.CurrentPaletteFile;
-  state.CurrentPaletteFile = lstPalette.Text();
+  state.CurrentPaletteFile = selectedPath();
   LoadPalette();
   renewPreview();
   // Only the path goes back: the search loads the chosen palette when the dialog has ended.
@@ -35,13 +37,15 @@ void PalSelectForm::cmdDefault_Click() {
 }
 
 void PalSelectForm::cmdOK_Click() {
-  state.CurrentPaletteFile = lstPalette.Text();
+  state.CurrentPaletteFile = selectedPath();
   Unload();
 }
 
 void selectPalette(const std::vector<std::string>& paths) {
-  for (const std::string& path : paths) frmPalSelect->addPalette(path);
-  frmPalSelect->Show(forms::vbModal);
+  QStringList texts;
+  for (const std::string& path : paths) texts.append(sys::shown(path));
+  frmPalSelect->showPaths(texts);
+  frmPalSelect->showModal();
 }
 
 }  // namespace mill

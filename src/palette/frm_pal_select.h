@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/forms/controls.h"
 #include "platform/forms/form.h"
-#include "platform/forms/list_box.h"
+#include "platform/forms/gesture_list.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
@@ -15,28 +15,23 @@ class PalSelectForm final : public forms::Form {
  public:
   PalSelectForm();
 
-  void addPalette(const std::string& path) { lstPalette.AddItem(path); }
+  void showPaths(const QStringList& paths) { lstPalette->setTexts(paths); }
 
  private:
   void lstPalette_Click();
   void cmdPrev_Click();
   void cmdDefault_Click();
   void cmdOK_Click();
+  std::string selectedPath() const { return sys::bytesOf(lstPalette->chosenText()); }
 
-  forms::Label Label1{*this,
-                      "Label1",
-                      "There is more than one palette with the same index.",
-                      {120, 120, 7095, 195}};
-  forms::Label Label2{*this, "Label2", "Choose one from the list below:", {120, 360, 7095, 195}};
-  forms::ListBox lstPalette{
-      *this, "lstPalette", {120, 600, 7095, 1455}, &PalSelectForm::lstPalette_Click};
-  forms::CommandButton cmdPrev{
-      *this,          "cmdPrev", "Preview", {120, 2160, 1335, 375}, &PalSelectForm::cmdPrev_Click,
-      forms::Disabled};
-  forms::CommandButton cmdDefault{
-      *this, "cmdDefault", "Default", {3000, 2160, 1335, 375}, &PalSelectForm::cmdDefault_Click};
-  forms::CommandButton cmdOK{
-      *this, "cmdOK", "OK", {5880, 2160, 1335, 375}, &PalSelectForm::cmdOK_Click, forms::Disabled};
+  // clang-format off
+  QLabel*             Label1     = label("Label1", "There is more than one palette with the same index.", { 120,  120, 7095,  195});
+  QLabel*             Label2     = label("Label2", "Choose one from the list below:",                     { 120,  360, 7095,  195});
+  forms::GestureList* lstPalette = add<forms::GestureList>("lstPalette",                                  { 120,  600, 7095, 1455}, Label2, QListView::SingleSelection, [this] { lstPalette_Click(); });
+  QPushButton*        cmdPrev    = button("cmdPrev",    "Preview",                                        { 120, 2160, 1335,  375}, [this] { cmdPrev_Click(); }, forms::Disabled);
+  QPushButton*        cmdDefault = button("cmdDefault", "Default",                                        {3000, 2160, 1335,  375}, [this] { cmdDefault_Click(); });
+  QPushButton*        cmdOK      = button("cmdOK",      "OK",                                             {5880, 2160, 1335,  375}, [this] { cmdOK_Click(); }, forms::Disabled);
+  // clang-format on
 };
 
 inline forms::Global<PalSelectForm> frmPalSelect;

@@ -1,7 +1,6 @@
 #include "palette/frm_pal_toolbar.h"
 
-#include "palette/show_colours.h"
-#include "picture/load_palette.h"
+#include "picture/hooks.h"
 #include "picture/program_state.h"
 #include "platform/system/paths.h"
 
@@ -10,20 +9,16 @@ namespace mill {
 PalToolbarForm::PalToolbarForm()
     : Form({.Name = "frmPalToolbar",
             .Caption = "Palette",
-            .BorderStyle = forms::Border::FixedToolWindow,
-            .Client = {1920, 1935}}) {}
+            .Client = {1920, 1935},
+            .BorderStyle = forms::Border::FixedTool}) {}
 
 void PalToolbarForm::Form_Load() {
-  updateSwatches = [this] { update(); };
-}
-
-void PalToolbarForm::Form_Unload() {
-  updateSwatches = {};
+  hooks.updateSwatches = [this] { update(); };
 }
 
 void PalToolbarForm::update() {
-  showColours(palette1, state.PaletteTable);
-  setCaption("Palette (" + std::string(forms::fileNameOf(state.CurrentPaletteFile)) + ")");
+  palette1->setColours(state.PaletteTable);
+  setCaption("Palette (" + std::string(sys::fileNameOf(state.CurrentPaletteFile)) + ")");
 }
 
 }  // namespace mill

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/forms/form.h"
-#include "platform/forms/swatch_grid.h"
+#include "platform/forms/swatches.h"
 
 namespace mill {
 
@@ -15,10 +15,9 @@ class PalToolbarForm final : public forms::Form {
 
  private:
   void Form_Load() override;
-  void Form_Unload() override;
   void Form_Activate() override { update(); }
 
-  forms::SwatchGrid palette1{*this, "palette1", 0, 0, 120};
+  forms::Swatches* palette1 = add<forms::Swatches>("palette1", {0, 0, 1935, 1935});
 };
 
 inline forms::Global<PalToolbarForm> frmPalToolbar;

@@ -1,9 +1,8 @@
 #include "picture/find_palette.h"
 
-#include <optional>
-#include <unordered_map>
 #include <utility>
 
+#include "picture/hooks.h"
 #include "picture/load_palette.h"
 #include "picture/program_state.h"
 #include "picture/temporary_files.h"
@@ -18,75 +17,56 @@ namespace {
 std::vector<std::string> searchedDirectories() {
   std::vector<std::string> directories = {state.PalDir};
   if (!state.Search) return directories;
-  for (const std::string& name : forms::directoriesIn(state.PalDir)) {
-    directories.push_back(forms::join(state.PalDir, name));
+  for (const std::string& name : sys::directoriesIn(state.PalDir)) {
+    directories.push_back(sys::join(state.PalDir, name));
   }
   return directories;
 }
 
-/// The paths of all palette files by their names.
-using PaletteNames = std::unordered_map<std::string, std::vector<std::string>>;
-
-bool inRun = false;
-std::optional<PaletteNames> namesOfRun;
-
-PaletteNames readNames() {
-  PaletteNames names;
+/// Checks each directory for this one file, without listing it.
+std::vector<std::string> pathsOf(const std::string& name) {
+  std::vector<std::string> paths;
   for (const std::string& directory : searchedDirectories()) {
-    for (const std::string& name : forms::filesIn(directory, "*.pal")) {
-      names[name].push_back(forms::join(directory, name));
-    }
+    std::string path = sys::join(directory, name);
+    if (sys::isNormalFile(path)) paths.push_back(std::move(path));
   }
-  return names;
+  return paths;
 }
 
-std::vector<std::string> matchingPalettes() {
-  const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";
-  if (inRun) {
-    if (!namesOfRun) namesOfRun = readNames();
-    const auto found = namesOfRun->find(name);
-    return found == namesOfRun->end() ? std::vector<std::string>() : found->second;
-  }
-  std::vector<std::string> matches;
-  for (const std::string& directory : searchedDirectories()) {
-    std::string path = forms::join(directory, name);
-    if (forms::isNormalFile(path)) matches.push_back(std::move(path));
-  }
-  return matches;
-}
-
-void settlePalette() {
+void settlePalette(PaletteNames* names) {
   if (state.PictureRecord.PaletteIndex == 0) {
     state.CurrentPaletteFile = tempPalettePath();
-    namesOfRun.reset();
+    if (names) names->forget();
     return;
   }
-  const std::vector<std::string> matches = matchingPalettes();
-  if (matches.empty()) {
-    state.CurrentPaletteFile = state.DefaultPalette;
-  } else if (matches.size() == 1) {
-    state.CurrentPaletteFile = matches.front();
+  const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";
+  const std::vector<std::string> paths = names ? names->find(name) : pathsOf(name);
+  if (paths.size() > 1) {
+    hooks.choosePalette(paths);
+    if (names) names->forget();
   } else {
-    choosePalette(matches);
-    namesOfRun.reset();
+    state.CurrentPaletteFile = paths.empty() ? state.DefaultPalette : paths.front();
   }
 }
 
 }  // namespace
 
-PaletteSearchRun::PaletteSearchRun() {
-  inRun = true;
-  namesOfRun.reset();
+std::vector<std::string> PaletteNames::find(const std::string& name) {
+  if (!paths_) {
+    paths_.emplace();
+    for (const std::string& directory : searchedDirectories()) {
+      for (const std::string& each : sys::filesIn(directory, "*.pal")) {
+        (*paths_)[each].push_back(sys::join(directory, each));
+      }
+    }
+  }
+  const auto found = paths_->find(name);
+  return found == paths_->end() ? std::vector<std::string>() : found->second;
 }
 
-PaletteSearchRun::~PaletteSearchRun() {
-  inRun = false;
-  namesOfRun.reset();
-}
-
-void FindPalette() {
-  settlePalette();
-  if (showPaletteFile) showPaletteFile();
+void FindPalette(PaletteNames* names) {
+  settlePalette(names);
+  hooks.showPaletteFile();
   LoadPalette();
 }
 

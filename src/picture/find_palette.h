@@ -1,33 +1,28 @@
 #pragma once
 
-#include <functional>
+#include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace mill {
 
-/// Lets the user choose one of several palette files, and leaves the choice in
-/// `CurrentPaletteFile`. The main window puts the chooser here before a picture can be opened.
-inline std::function<void(const std::vector<std::string>& paths)> choosePalette;
-
-/// Shows the path of the current palette on the main window.
-inline std::function<void()> showPaletteFile;
-
-/// While one lives, as during the conversion of many pictures, the palette directories are read
-/// once and not for every picture; and again after the chooser or the question about a standard
-/// bitmap was open, since the user may have put a palette there meanwhile.
-class PaletteSearchRun {
+/// The names of all palette files that the search considers, read once for all pictures of a run.
+/// They are read again after the user was asked something, since files may have been added by then.
+class PaletteNames {
  public:
-  PaletteSearchRun();
-  ~PaletteSearchRun();
-  PaletteSearchRun(const PaletteSearchRun&) = delete;
-  PaletteSearchRun& operator=(const PaletteSearchRun&) = delete;
+  /// The paths of the files with this name, the palette directory's own first.
+  std::vector<std::string> find(const std::string& name);
+  void forget() { paths_.reset(); }
+
+ private:
+  std::optional<std::unordered_map<std::string, std::vector<std::string>>> paths_;
 };
 
-/// Makes the palette of `PaletteIndex` the current one: the file named after the index in the
-/// palette directory or, with `Search`, one level below it. Several are for the user to choose
-/// from; without any the default palette is taken, silently. Index 0 stands for the colours that a
-/// standard bitmap brought along.
-void FindPalette();
+/// Loads the palette for `PaletteIndex`: the file named after the index in the palette directory
+/// or, with `Search`, one level below it. If there are several, the user chooses; if there is none,
+/// the default palette is used silently. Index 0 means the colours of the standard bitmap opened
+/// last. A run passes its `names`.
+void FindPalette(PaletteNames* names = nullptr);
 
 }  // namespace mill

@@ -1,10 +1,11 @@
 #include "picture/load_palette.h"
 
 #include <algorithm>
-#include <array>
+#include <vector>
 
 #include "formats/fault.h"
 #include "formats/palette_file.h"
+#include "picture/hooks.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/forms/msg_box.h"
@@ -14,33 +15,34 @@ namespace mill {
 
 namespace {
 
-Fault readFile(const std::string& path, std::string& head, ColourTable& colours) {
-  if (!forms::isNormalFile(path)) return Fault::PaletteMissing;
-  forms::InputFile file(path);
+/// Fills `read` with the bytes of the file, at most those of a whole palette.
+Fault readFile(const std::string& path, std::vector<std::uint8_t>& read) {
+  if (!sys::isNormalFile(path)) return Fault::PaletteMissing;
+  sys::InputFile file(path);
   if (!file.isOpen()) return Fault::PaletteUnreadable;
-  std::array<std::uint8_t, kPaletteFileSize> bytes{};
-  const auto size = static_cast<std::size_t>(std::min<std::int64_t>(file.size(), bytes.size()));
-  const auto there = std::span(bytes).first(size);
-  if (!file.read(there)) return Fault::PaletteUnreadable;
-  return readPalette(there, head, colours);
+  read.resize(static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kPaletteFileSize)));
+  return file.read(read) ? Fault::None : Fault::PaletteUnreadable;
 }
 
 bool writeFile(const std::string& path, const ColourTable& colours) {
   const auto bytes = paletteBytes(state.PaletteHeader, colours);
-  forms::OutputFile file(path, static_cast<std::int64_t>(bytes.size()));
+  sys::OutputFile file(path, static_cast<std::int64_t>(bytes.size()));
   return file.isOpen() && file.write(bytes) && file.close();
 }
 
 }  // namespace
 
 bool readPaletteFile(const std::string& path, std::string& head, ColourTable& colours) {
-  const Fault fault = readFile(path, head, colours);
+  std::vector<std::uint8_t> bytes;
+  Fault fault = readFile(path, bytes);
+  const bool hasHead = fault == Fault::None && bytes.size() >= kPaletteHeadSize;
+  if (fault == Fault::None) fault = readPalette(bytes, head, colours);
   if (fault == Fault::PaletteUnreadable) {
     warn(fault, path);
   } else if (fault != Fault::None) {
     forms::MsgBox({.text = std::string(message(fault))});
   }
-  return fault == Fault::None || fault == Fault::PaletteIncomplete;
+  return hasHead;
 }
 
 bool writePaletteFile(const std::string& path, const ColourTable& colours) {
@@ -52,7 +54,7 @@ bool writePaletteFile(const std::string& path, const ColourTable& colours) {
 void LoadPalette() {
   const bool read =
       readPaletteFile(state.CurrentPaletteFile, state.PaletteHeader, state.PaletteTable);
-  if (read && state.ShowPal && updateSwatches) updateSwatches();
+  if (read && state.ShowPal) hooks.updateSwatches();
 }
 
 bool SavePalette() {

@@ -1,30 +1,26 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include "formats/picture_record.h"
 
 namespace mill {
 
-/// Called after each `LoadPalette` that read a file while `ShowPal` is on. The swatch window puts
-/// itself here when it is loaded.
-inline std::function<void()> updateSwatches;
-
-/// Reads the palette file at `path`. A file that isn't there, can't be read or is too short brings
-/// its message; a short one gives what it has, the others leave `head` and `colours` alone. True
-/// where these have been read.
+/// Reads the palette file at `path`. The user gets a message if it is missing, unreadable or too
+/// short. A short file supplies what it has, unless even its head is incomplete. True if `head` and
+/// `colours` were read; otherwise they are unchanged.
 [[nodiscard]] bool readPaletteFile(const std::string& path, std::string& head,
                                    ColourTable& colours);
 
-/// Writes `PaletteHeader` and `colours` over the file at `path`, keeping the tail of a longer one.
-/// False, with a message, where that fails.
+/// Writes `PaletteHeader` and `colours` to the file at `path`; the tail of a longer file stays. On
+/// failure the user gets a message and the result is false.
 [[nodiscard]] bool writePaletteFile(const std::string& path, const ColourTable& colours);
 
 /// Reads `CurrentPaletteFile` into `PaletteTable` and `PaletteHeader`.
 void LoadPalette();
 
-/// Writes `PaletteTable` over `CurrentPaletteFile`. False, with a message, where that fails.
+/// Writes `PaletteTable` to `CurrentPaletteFile`. On failure the user gets a message and the result
+/// is false.
 [[nodiscard]] bool SavePalette();
 
 }  // namespace mill

@@ -7,13 +7,12 @@
 
 #include "formats/kestrel_bitmap.h"
 #include "formats/standard_bitmap.h"
-#include "picture/conversion_progress.h"
-#include "picture/find_palette.h"
+#include "picture/hooks.h"
 #include "picture/load_palette.h"
 #include "picture/program_state.h"
 #include "picture/temporary_files.h"
 #include "picture/warn.h"
-#include "platform/forms/application.h"
+#include "platform/forms/hourglass.h"
 #include "platform/forms/msg_box.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
@@ -24,19 +23,19 @@ namespace {
 
 using Magic = std::array<std::uint8_t, 2>;
 
-/// The file of a picture, read on from behind its first two characters.
+/// A picture file, positioned after the two-byte magic once that has been read.
 class PictureFile {
  public:
   explicit PictureFile(const std::string& path) : file_(path) {}
 
-  /// A file of fewer than two bytes is of no known kind: its characters stay 0.
+  /// A file shorter than two bytes has no magic; `magic` then stays 0.
   Fault readMagic(Magic& magic) {
     if (!file_.isOpen()) return Fault::PictureUnreadable;
     if (file_.size() < 2) return Fault::None;
     return file_.read(magic) ? Fault::None : Fault::PictureUnreadable;
   }
 
-  /// The head that begins with `magic`; `missing` where the file ends before.
+  /// The head, beginning with `magic`; returns `missing` if the file is shorter.
   template <std::size_t size>
   Fault readHead(const Magic& magic, std::array<std::uint8_t, size>& head, Fault missing) {
     if (file_.size() < static_cast<std::int64_t>(size)) return missing;
@@ -51,7 +50,7 @@ class PictureFile {
   }
 
  private:
-  forms::InputFile file_;
+  sys::InputFile file_;
 };
 
 bool wantsStandardBitmap() {
@@ -67,16 +66,17 @@ Fault readKestrel(PictureFile& file, const Magic& magic) {
   Fault fault = file.readHead(magic, bytes, Fault::PictureDamaged);
   if (fault == Fault::None) fault = checkKestrelHead(bytes, file.size(), head);
   if (fault != Fault::None) return fault;
-  return readKestrelBitmap(head, file.rest(), state.PictureRecord, openingProgress());
+  Reports reports(hooks.incOpenProgress);
+  return readKestrelBitmap(head, file.rest(), state.PictureRecord, reports);
 }
 
-/// The picture's own colours become the current palette, and stand in a palette file like any
-/// other. False where they couldn't be written there.
+/// Makes the picture's own colours the current palette and saves them in a palette file. False if
+/// they couldn't be saved.
 bool takeColours() {
   state.PaletteTable = state.PictureRecord.Colours;
   state.CurrentPaletteFile = tempPalettePath();
   if (SavePalette()) return true;
-  if (state.ShowPal && updateSwatches) updateSwatches();
+  if (state.ShowPal) hooks.updateSwatches();
   return false;
 }
 
@@ -86,13 +86,14 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
   Fault fault = file.readHead(magic, bytes, Fault::WrongShape);
   if (fault == Fault::None) fault = checkStandardHead(bytes, file.size(), header);
   if (fault != Fault::None) return fault;
-  return readStandardBitmap(header, file.rest(), state.PictureRecord, openingProgress());
+  Reports reports(hooks.incOpenProgress);
+  return readStandardBitmap(header, file.rest(), state.PictureRecord, reports);
 }
 
 }  // namespace
 
-void OpenPicture(const std::string& path) {
-  if (!forms::isNormalFile(path)) return warn(Fault::PictureMissing);
+void OpenPicture(const std::string& path, PaletteNames* names) {
+  if (!sys::isNormalFile(path)) return warn(Fault::PictureMissing);
 
   std::optional<PictureFile> file(path);
   Magic magic{};
@@ -113,7 +114,7 @@ void OpenPicture(const std::string& path) {
     return;
   }
 
-  // No picture counts as open while this one is read.
+  // No picture is open while this one is being read.
   std::string before = std::exchange(state.PictureFileName, {});
   {
     const forms::Hourglass hourglass;
@@ -125,16 +126,16 @@ void OpenPicture(const std::string& path) {
   }
   file.reset();
   state.IsStandardBitmap = state.RecordIsStandard = standard;
-  // Without a file of their own they are in use all the same; what that file holds are others.
+  // If the colours couldn't be saved, bmp.pal still holds older ones: don't reload it.
   const bool loadable = !standard || takeColours();
 
-  if (!isConverting() && state.ResizeFit && fitPreview) {
-    fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
+  if (!hooks.isConverting() && state.ResizeFit) {
+    hooks.fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
   }
-  state.PictureFileName = forms::fileNameOf(path);
+  state.PictureFileName = sys::fileNameOf(path);
   state.PictureSourceFile = path;
   state.TempPicturePath = tempPicturePath();
-  if (state.AutoPal && loadable) FindPalette();
+  if (state.AutoPal && loadable) FindPalette(names);
 }
 
 }  // namespace mill

@@ -1,18 +1,14 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <string>
+
+#include "picture/find_palette.h"
 
 namespace mill {
 
-/// Gives the preview window the size of a picture of `width` × `height` pixels. The window puts
-/// itself here when it is loaded.
-inline std::function<void(std::int32_t width, std::int32_t height)> fitPreview;
-
-/// Reads the picture file at `path` into the shared record. A refused file brings its message and
-/// leaves the state as it was; `PictureFileName` tells: after an accepted file it is the file's
-/// name.
-void OpenPicture(const std::string& path);
+/// Reads the picture file at `path` into the shared record and sets `PictureFileName` to its name.
+/// For a file that is refused, the user gets a message and the state stays as it was. A run passes
+/// its palette `names`; see `FindPalette`.
+void OpenPicture(const std::string& path, PaletteNames* names = nullptr);
 
 }  // namespace mill

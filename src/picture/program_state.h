@@ -6,11 +6,12 @@
 #include <vector>
 
 #include "formats/picture_record.h"
-#include "platform/forms/bitmap.h"
+
+class QImage;
 
 namespace mill {
 
-/// All that the windows and routines share: one open picture, one palette, one set of flags.
+/// Everything that windows and routines share: one open picture, one palette, one set of flags.
 /// Paths are in drive form, or as the user or the environment wrote them.
 struct ProgramState {
   mill::PictureRecord PictureRecord;
@@ -37,19 +38,19 @@ struct ProgramState {
   std::string TempPicturePath;
   /// File name of the open picture, without directory; empty when none is open.
   std::string PictureFileName;
-  /// Path of the file that `PictureRecord` was read from, which no output may land on; unlike the
-  /// name it stays after a conversion.
+  /// Path of the file that `PictureRecord` was read from, which must never be overwritten. Unlike
+  /// the name it is kept after a conversion.
   std::string PictureSourceFile;
-  /// Whether the open picture is a standard bitmap; cleared, too, by a file of no known kind and by
-  /// a standard bitmap that the user declines.
+  /// Whether the open picture is a standard bitmap. Also cleared when a file of an unknown kind is
+  /// refused or the user declines a standard bitmap.
   bool IsStandardBitmap = false;
-  /// Whether `PictureRecord` came from a standard bitmap, whatever has been refused since.
+  /// Whether `PictureRecord` holds a standard bitmap, regardless of files refused since.
   bool RecordIsStandard = false;
 
   /// The bitmap that the preview shows; null before the first one and after a failed load.
-  std::unique_ptr<forms::Bitmap> PreviewDC;
+  std::shared_ptr<const QImage> PreviewDC;
 
-  /// The selection in list order, names without directory. Only the first `SelectedCount` count.
+  /// The selected names in list order, without directory. Only the first `SelectedCount` are valid.
   std::vector<std::string> SelectedFiles;
   std::int32_t SelectedCount = 0;
 

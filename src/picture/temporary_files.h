@@ -2,19 +2,19 @@
 
 #include <string>
 
-#include "platform/system/environment.h"
 #include "platform/system/paths.h"
+#include "platform/system/temp_directory.h"
 
 namespace mill {
 
 /// The bitmap that the preview shows.
 inline std::string tempPicturePath() {
-  return forms::join(forms::tempDirectory(), "temp.bmp");
+  return sys::join(sys::tempDirectory(), "temp.bmp");
 }
 
 /// The colours of the standard bitmap that was opened last, as a palette file.
 inline std::string tempPalettePath() {
-  return forms::join(forms::tempDirectory(), "bmp.pal");
+  return sys::join(sys::tempDirectory(), "bmp.pal");
 }
 
 }  // namespace mill

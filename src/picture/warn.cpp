@@ -11,7 +11,7 @@ void warn(const std::string& text) {
 void warn(Fault fault, const std::string& path) {
   std::string text(message(fault));
   if (!path.empty()) text += "\n" + path;
-  // One directory for both is a slip of the user's; the rest are failures.
+  // Using one directory for both is a slip of the user; everything else is a failure.
   if (fault != Fault::SameDirectory) return warn(text);
   forms::MsgBox({.text = text, .title = kWarning, .icon = forms::Icon::Information});
 }

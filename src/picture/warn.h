@@ -6,14 +6,13 @@
 
 namespace mill {
 
-/// The title of messages that tell or ask of something wrong.
+/// The title of warnings.
 inline constexpr const char* kWarning = "Warning!";
 
-/// Tells the user of something that has failed.
+/// Shows a failure to the user.
 void warn(const std::string& text);
 
-/// Tells the user of `fault`, with the path of the file in question on a line of its own where one
-/// is given.
+/// Shows the message of `fault` to the user, with `path`, if given, on a line of its own.
 void warn(Fault fault, const std::string& path = {});
 
 }  // namespace mill

@@ -5,8 +5,8 @@
 namespace mill {
 
 /// Writes the shared record to `path` as a standard bitmap with the colours of `PaletteTable`. An
-/// older file is written over and keeps its tail. A failure brings a message; the result says
-/// whether the file was written.
+/// existing file is overwritten from its start and keeps its tail. On failure the user gets a
+/// message and the result is false.
 [[nodiscard]] bool WriteBitmap(const std::string& path);
 
 }  // namespace mill

@@ -1,6 +1,6 @@
 #include <cstdlib>
 
-#include "platform/forms/application.h"
+#include "platform/forms/desktop.h"
 #include "support/windows.h"
 
 /// The windows are real ones on Qt's offscreen platform, with a home and settings of their own.

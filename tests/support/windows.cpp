@@ -1,7 +1,9 @@
 #include "support/windows.h"
 
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 
@@ -9,11 +11,13 @@
 #include <csignal>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <utility>
 
 #include "mainwindow/frm_main.h"
+#include "picture/hooks.h"
 #include "picture/program_state.h"
-#include "platform/forms/application.h"
+#include "platform/system/application.h"
 #include "platform/system/paths.h"
 #include "platform/system/settings.h"
 
@@ -25,7 +29,7 @@ TempFolder::TempFolder() {
 }
 
 std::string TempFolder::drive(const std::string& name) const {
-  return forms::drivePath(path(name).string());
+  return sys::drivePath(path(name).string());
 }
 
 void TempFolder::write(const std::string& name, const Bytes& bytes) const {
@@ -38,27 +42,33 @@ Bytes readFile(const std::filesystem::path& path) {
   return Bytes(std::istreambuf_iterator<char>(in), {});
 }
 
-Messages::Messages() {
-  forms::answerMessagesWith([this](const forms::Message& message) {
-    said_.push_back(message);
-    if (meanwhile) meanwhile();
-    const bool asks = message.buttons == forms::Buttons::YesNo;
-    if (answers.empty()) answers = {asks ? forms::Answer::No : forms::Answer::OK};
-    const forms::Answer answer = answers.front();
-    answers.erase(answers.begin());
-    return answer;
-  });
+bool Messages::eventFilter(QObject* watched, QEvent* event) {
+  auto* box = event->type() == QEvent::Show ? qobject_cast<QMessageBox*>(watched) : nullptr;
+  if (box) QTimer::singleShot(0, box, [this, box] { answer(*box); });
+  return false;
 }
 
-std::vector<std::string> Messages::texts() {
-  std::vector<std::string> texts;
-  for (const forms::Message& message : std::exchange(said_, {})) texts.push_back(message.text);
+void Messages::answer(QMessageBox& box) {
+  const QString text = box.detailedText().isEmpty() ? box.text() : box.detailedText();
+  said_.push_back({text.toStdString(), box.windowTitle().toStdString(), box.icon()});
+  if (meanwhile) meanwhile();
+  const bool asks = box.standardButtons().testFlag(QMessageBox::No);
+  if (answers.empty()) answers = {asks ? QMessageBox::No : QMessageBox::Ok};
+  auto* button = box.button(answers.front());
+  if (!button) ADD_FAILURE() << "no such answer to " << text.toStdString();
+  (button ? button : box.buttons().front())->click();
+  answers.erase(answers.begin());
+}
+
+Texts Messages::texts() {
+  Texts texts;
+  for (const Said& message : std::exchange(said_, {})) texts.push_back(message.text);
   return texts;
 }
 
 void Messages::expectLast(std::size_t count, const std::string& text, const std::string& title,
-                          forms::Icon icon) {
-  const std::vector<forms::Message> heard = std::exchange(said_, {});
+                          QMessageBox::Icon icon) {
+  const std::vector<Said> heard = std::exchange(said_, {});
   ASSERT_EQ(heard.size(), count);
   EXPECT_EQ(heard.back().text, text);
   EXPECT_EQ(heard.back().title, title);
@@ -78,13 +88,40 @@ void press(const char* form, const char* button) {
   QTest::mouseClick(control<QPushButton>(form, button), Qt::LeftButton);
 }
 
-void whenShown(std::function<void()> act) {
-  QTimer::singleShot(0, qApp, std::move(act));
+namespace {
+
+/// Message boxes may come before.
+void whenFormIsModal(const std::shared_ptr<bool>& isDone, const std::function<void()>& act) {
+  QTimer::singleShot(0, qApp, [isDone, act] {
+    if (!dynamic_cast<forms::Form*>(QApplication::activeModalWidget())) {
+      if (!*isDone) whenFormIsModal(isDone, act);
+      return;
+    }
+    *isDone = true;
+    act();
+  });
 }
 
-void pressAndThen(const char* form, const char* button, std::function<void()> act) {
-  whenShown(std::move(act));
-  press(form, button);
+}  // namespace
+
+void inModal(const std::function<void()>& open, const std::function<void()>& act) {
+  const auto isDone = std::make_shared<bool>(false);
+  whenFormIsModal(isDone, act);
+  open();
+  EXPECT_TRUE(std::exchange(*isDone, true)) << "no window was shown modally";
+}
+
+void pressAndThen(const char* form, const char* button, const std::function<void()>& act) {
+  inModal([&] { press(form, button); }, act);
+}
+
+void type(const char* form, const char* box, const std::string& text) {
+  auto* edit = control(form, box);
+  edit->setFocus();
+  auto* line = qobject_cast<QLineEdit*>(edit);
+  if (!line) line = edit->findChild<QLineEdit*>();
+  line->selectAll();
+  QTest::keyClicks(line, QString::fromStdString(text));
 }
 
 QImage painted(QWidget* widget) {
@@ -106,6 +143,16 @@ QImage boxWith(const Bytes& bitmap, QSize box, int scale) {
     }
   }
   return image;
+}
+
+void expectSwatches(const char* form, const model::Colours& colours) {
+  auto* view = control<QTableView>(form, "palette1");
+  const QImage image = painted(view);
+  for (int i = 0; i < 256; ++i) {
+    const auto [red, green, blue, extra] = colours[static_cast<std::size_t>(i)];
+    const QRect swatch = view->visualRect(view->model()->index(i / 16, i % 16));
+    ASSERT_EQ(image.pixel(swatch.center()), qRgb(red, green, blue)) << i;
+  }
 }
 
 Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
@@ -134,14 +181,23 @@ WindowTest::WindowTest() {
   ::setenv("temp", folder.path().c_str(), 1);
 }
 
+namespace {
+
+sys::Settings settings() {
+  return sys::Settings(sys::App.Title, "Settings");
+}
+
+}  // namespace
+
 void WindowTest::reset() {
-  while (forms::Forms.Count() > 0) forms::Forms[forms::Forms.Count() - 1].Unload();
+  while (!forms::Form::loaded().empty()) forms::Form::loaded().back()->Unload();
   settle();
   state = {};
+  hooks = {};
 }
 
 MainWindowTest::MainWindowTest() {
-  std::filesystem::remove(forms::nativePath(forms::settingsFile(forms::Application::Title)));
+  std::filesystem::remove(settings().file());
   for (const char* name : {"in", "out", "pal"}) folder.makeFolder(name);
   // A folder without any file would not be taken as the source.
   folder.write("in/readme.txt", {});
@@ -156,11 +212,13 @@ MainWindowTest::MainWindowTest() {
 }
 
 void MainWindowTest::set(const char* key, const std::string& value) {
-  forms::SaveSetting(forms::Application::Title, "Settings", key, value);
+  sys::Settings store = settings();
+  store.setText(key, value);
+  EXPECT_TRUE(store.save());
 }
 
 void MainWindowTest::start() {
-  frmMain->Show();
+  frmMain->show();
   settle();
 }
 
@@ -171,7 +229,7 @@ Bytes MainWindowTest::addPicture(const std::string& name, int seed) {
   return model::kestrelBitmap(picture);
 }
 
-void MainWindowTest::select(const std::vector<std::string>& names) {
+void MainWindowTest::select(const Texts& names) {
   auto* list = control<QListView>("frmMain", "filSource");
   Qt::KeyboardModifiers keys;
   for (const std::string& name : names) {

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QMessageBox>
 #include <QWidget>
 
 #include <cstdlib>
@@ -14,12 +15,12 @@
 #include <vector>
 
 #include "formats/picture_record.h"
-#include "platform/forms/msg_box.h"
 #include "support/format_model.h"
 
 namespace mill::test {
 
 using model::Bytes;
+using Texts = std::vector<std::string>;
 
 /// A new folder that goes with the object.
 class TempFolder {
@@ -46,25 +47,31 @@ class TempFolder {
 
 Bytes readFile(const std::filesystem::path& path);
 
-/// Answers every message box as long as it lives, and keeps what they said. A message without a
-/// prepared answer gets OK, or No where it asks.
-class Messages {
+/// Answers every message box as long as it lives, and keeps what they said. One without a prepared
+/// answer gets OK, or No where it asks.
+class Messages : public QObject {
  public:
-  Messages();
-  ~Messages() { forms::answerMessagesWith({}); }
+  Messages() { qApp->installEventFilter(this); }
 
   /// The texts said since the last call.
-  std::vector<std::string> texts();
+  Texts texts();
   /// There were `count` messages, and the last of them was this one. Forgets them all.
   void expectLast(std::size_t count, const std::string& text, const std::string& title,
-                  forms::Icon icon);
+                  QMessageBox::Icon icon);
 
-  std::vector<forms::Answer> answers;
+  std::vector<QMessageBox::StandardButton> answers;
   /// Called at each message, before it is answered.
   std::function<void()> meanwhile;
 
  private:
-  std::vector<forms::Message> said_;
+  struct Said {
+    std::string text, title;
+    QMessageBox::Icon icon;
+  };
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void answer(QMessageBox& box);
+
+  std::vector<Said> said_;
 };
 
 /// The window of a form, rather a visible one than one that is just being unloaded.
@@ -80,13 +87,18 @@ W* control(const char* form, const char* name) {
   }
   return found;
 }
+inline bool isEnabled(const char* form, const char* name) {
+  return control(form, name)->isEnabled();
+}
 
 /// Presses a button of a form with the mouse.
 void press(const char* form, const char* button);
-/// Runs `act` when the next event loop runs, such as that of a window about to be shown modally.
-void whenShown(std::function<void()> act);
-/// Presses a button that opens a modal window, and runs `act` in there.
-void pressAndThen(const char* form, const char* button, std::function<void()> act);
+/// Does `open`, which shows a window modally, and `act` in there.
+void inModal(const std::function<void()>& open, const std::function<void()>& act);
+/// Presses a button that shows a window modally, and does `act` in there.
+void pressAndThen(const char* form, const char* button, const std::function<void()>& act);
+/// Makes `text` that of a line edit or combo box, as if typed.
+void type(const char* form, const char* box, const std::string& text);
 /// Lets everything happen that waits in the event queue, deletions included.
 void settle();
 
@@ -94,6 +106,8 @@ void settle();
 QImage painted(QWidget* widget);
 /// An empty box with a bitmap file of 256 colours at its top left, decoded pixel by pixel.
 QImage boxWith(const Bytes& bitmap, QSize box, int scale = 1);
+/// The swatches of a form show these colours.
+void expectSwatches(const char* form, const model::Colours& colours);
 
 /// A limit of the process, as long as it lives: with RLIMIT_NOFILE 0 no file can be opened, with
 /// RLIMIT_FSIZE the disk is full once a file has that size.
@@ -136,7 +150,7 @@ class MainWindowTest : public WindowTest {
   /// A Kestrel Bitmap of 4 x 4 pixels in "in"; `seed` makes it another than the rest.
   Bytes addPicture(const std::string& name, int seed = 0);
   /// Clicks the names in the list, with Ctrl from the second one on.
-  void select(const std::vector<std::string>& names);
+  void select(const Texts& names);
   /// Selects the name and opens it into the preview.
   void preview(const std::string& name);
 

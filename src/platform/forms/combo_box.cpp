@@ -1,66 +1,84 @@
 #include "platform/forms/combo_box.h"
 
+#include <QAbstractItemView>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include <utility>
 
-#include "platform/forms/calm_combo_box.h"
+#include "platform/system/paths.h"
 #include "platform/system/text.h"
 
 namespace forms {
 
-ComboBox::ComboBox(Container& parent, const char* name, const Rect& place, Handler change,
-                   Handler click)
-    : Control(parent, name, new CalmComboBox(parent.host()), place), change_(std::move(change)) {
-  borrowLabel(parent);
-  auto* box = as<QComboBox>();
-  box->setEditable(true);
-  box->setInsertPolicy(QComboBox::NoInsert);
-  box->setCompleter(nullptr);
-  box->lineEdit()->setAccessibleName(box->accessibleName());
+void CalmComboBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus() && view()->isVisible()) return QComboBox::wheelEvent(event);
+  event->ignore();
+}
+
+ComboBox::ComboBox(QWidget* parent, std::function<void()> change, std::function<void()> click)
+    : CalmComboBox(parent), change_(change ? std::move(change) : [] {}) {
+  setEditable(true);
+  setInsertPolicy(NoInsert);
+  setCompleter(nullptr);
   // When the typing ends on an entry's text, Qt would report that as a pick.
-  QObject::disconnect(box->lineEdit(), &QLineEdit::editingFinished, box, nullptr);
-  QObject::connect(box->lineEdit(), &QLineEdit::textEdited, [this] { change_(form_); });
-  QObject::connect(box, &QComboBox::activated, [this, click = std::move(click)] { click(form_); });
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+  connect(lineEdit(), &QLineEdit::textEdited, this, change_);
+  connect(this, &QComboBox::activated, this, click ? std::move(click) : change_);
 }
 
 std::string ComboBox::Text() const {
-  return bytesOf(as<QComboBox>()->currentText());
+  return sys::bytesOf(currentText());
 }
 
 void ComboBox::setText(const std::string& text) {
   if (text == Text()) return;
-  auto* box = as<QComboBox>();
-  box->setCurrentIndex(box->findText(shown(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-  box->setEditText(shown(text));
-  change_(form_);
+  const QString wanted = sys::shown(text);
+  setCurrentIndex(findText(wanted, Qt::MatchExactly | Qt::MatchCaseSensitive));
+  setEditText(wanted);
+  change_();
 }
 
 void ComboBox::AddItem(const std::string& entry) {
   // A first entry would become the current one and the text.
-  auto* box = as<QComboBox>();
-  const QSignalBlocker quiet(box);
-  const QString text = box->currentText();
-  const int index = box->currentIndex();
-  box->addItem(shown(entry));
-  box->setCurrentIndex(index);
-  box->setEditText(text);
+  const QSignalBlocker quiet(this);
+  const QString text = currentText();
+  const int index = currentIndex();
+  addItem(sys::shown(entry));
+  setCurrentIndex(index);
+  setEditText(text);
 }
 
 void ComboBox::pick(const std::string& entry) {
-  int index = 0;
-  while (index < ListCount() && List(index) != entry) ++index;
-  if (index == ListCount()) AddItem(entry);
+  if (findText(sys::shown(entry), Qt::MatchExactly | Qt::MatchCaseSensitive) < 0) AddItem(entry);
   setText(entry);
 }
 
-int ComboBox::ListCount() const {
-  return as<QComboBox>()->count();
+DriveBox::DriveBox(QWidget* parent, std::function<void()> change) : CalmComboBox(parent) {
+  setAccessibleName(QStringLiteral("Drive"));
+  readDrives();
+  setCurrentText(QStringLiteral("Z:"));
+  if (change) connect(this, &QComboBox::currentIndexChanged, this, std::move(change));
 }
 
-std::string ComboBox::List(int index) const {
-  return bytesOf(as<QComboBox>()->itemText(index));
+/// Drives come and go; the present one stays where it is still there.
+void DriveBox::readDrives() {
+  const QSignalBlocker quiet(this);
+  const QString present = currentText();
+  clear();
+  for (const std::string& drive : sys::drives()) addItem(sys::shown(drive));
+  setCurrentText(present);
+}
+
+std::string DriveBox::Drive() const {
+  return sys::bytesOf(currentText());
+}
+
+void DriveBox::setDrive(const std::string& drive) {
+  readDrives();
+  const int index = findText(sys::shown(drive), Qt::MatchFixedString);
+  if (index >= 0) setCurrentIndex(index);
 }
 
 }  // namespace forms

@@ -1,17 +1,26 @@
 #pragma once
 
-#include <string>
+#include <QComboBox>
 
-#include "platform/forms/control.h"
+#include <functional>
+#include <string>
 
 namespace forms {
 
-/// Text to type into, with a list of entries to pick from. Typing, and setting `Text` to another
-/// text, raise Change; picking an entry raises Click and no Change. Typing never adds an entry.
-class ComboBox : public Control {
+/// A wheel that turns over a closed box changes nothing under the user's hand.
+class CalmComboBox : public QComboBox {
  public:
-  ComboBox(Container& parent, const char* name, const Rect& place, Handler change = {},
-           Handler click = {});
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+/// Text to type into, with a list of entries to pick from. Typing, and setting another text, raise
+/// Change; picking an entry raises Click and no Change. Typing never adds an entry.
+class ComboBox final : public CalmComboBox {
+ public:
+  ComboBox(QWidget* parent, std::function<void()> change, std::function<void()> click);
 
   std::string Text() const;
   void setText(const std::string& text);
@@ -19,12 +28,23 @@ class ComboBox : public Control {
   void AddItem(const std::string& entry);
   /// Makes `entry` the text, and one of the entries at the end if it isn't one yet.
   void pick(const std::string& entry);
-  int ListCount() const;
-  /// The entry at `index`, from 0.
-  std::string List(int index) const;
 
  private:
-  Handler change_;
+  std::function<void()> change_;
+};
+
+/// The drives that there are, `Z:` and those of the user's Wine prefix, to pick one from.
+class DriveBox final : public CalmComboBox {
+ public:
+  explicit DriveBox(QWidget* parent, std::function<void()> change = {});
+
+  /// A letter and a colon.
+  std::string Drive() const;
+  /// A drive that isn't there changes nothing.
+  void setDrive(const std::string& drive);
+
+ private:
+  void readDrives();
 };
 
 }  // namespace forms

@@ -6,6 +6,10 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <string_view>
+#include <utility>
 
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
@@ -16,21 +20,20 @@ namespace forms {
 namespace {
 
 QTreeWidgetItem* makeItem(const std::string& name) {
-  auto* item = new QTreeWidgetItem({shown(name)});
+  auto* item = new QTreeWidgetItem({sys::shown(name)});
   item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
   return item;
 }
 
 std::string pathOf(const QTreeWidgetItem* item) {
-  std::string path = bytesOf(item->text(0));
-  while ((item = item->parent())) path = join(bytesOf(item->text(0)), path);
+  std::string path = sys::bytesOf(item->text(0));
+  while ((item = item->parent())) path = sys::join(sys::bytesOf(item->text(0)), path);
   // The root item is the drive itself, "Z:\".
   if (const std::size_t twice = path.find("\\\\"); twice != std::string::npos) path.erase(twice, 1);
   return path;
 }
 
-}  // namespace
-
+/// A drive's root is its own parent.
 std::string parentOf(const std::string& path) {
   const std::size_t end = path.find_last_not_of('\\');
   const std::size_t separator = end == std::string::npos ? end : path.rfind('\\', end);
@@ -38,7 +41,22 @@ std::string parentOf(const std::string& path) {
   return path.substr(0, std::max<std::size_t>(separator, 3));
 }
 
-DirTree::DirTree(QWidget* parent) : QTreeWidget(parent) {
+/// The path with an upper-case drive and with its "." and ".." worked out.
+std::string withoutDots(std::string path) {
+  if (path.size() < 2) return path;
+  path[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(path[0])));
+  std::replace(path.begin(), path.end(), '\\', '/');
+  std::filesystem::path rest("/");
+  rest += path.substr(2);
+  path.resize(2);
+  return path.append(sys::drivePath(rest.lexically_normal().string()), 2, std::string::npos);
+}
+
+}  // namespace
+
+DirTree::DirTree(QWidget* parent, std::function<void()> change)
+    : QTreeWidget(parent), change_(change ? std::move(change) : [] {}) {
+  setAccessibleName(QStringLiteral("Directory"));
   setColumnCount(1);
   setHeaderHidden(true);
   setUniformRowHeights(true);
@@ -46,45 +64,48 @@ DirTree::DirTree(QWidget* parent) : QTreeWidget(parent) {
   // A long name is read by scrolling, not cut.
   header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   header()->setStretchLastSection(false);
-  connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { fill(item); });
-  // What is highlighted stays in sight.
-  connect(this, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
-    for (auto* above = currentItem(); above; above = above->parent()) {
-      if (above == item) return setCurrentItem(item);
-    }
-  });
-  connect(this, &QTreeWidget::currentItemChanged, this, [this] { changed(); });
+  connect(this, &QTreeWidget::itemExpanded, this, &DirTree::fill);
+  connect(this, &QTreeWidget::itemCollapsed, this, &DirTree::stayInSight);
+  highlight("Z:\\");
+  connect(this, &QTreeWidget::currentItemChanged, this, change_);
 }
 
-std::string DirTree::path() const {
-  return currentItem() ? pathOf(currentItem()) : std::string();
+std::string DirTree::Path() const {
+  std::string path = currentItem() ? pathOf(currentItem()) : std::string();
+  while (!sys::isDirectory(path) && path.size() > 3) path = parentOf(path);
+  return path;
+}
+
+void DirTree::setPath(const std::string& path) {
+  std::string wanted = withoutDots(sys::drivePath(path));
+  if (!sys::isDirectory(wanted.substr(0, 2))) return;
+  while (!sys::isDirectory(wanted) && wanted != parentOf(wanted)) wanted = parentOf(wanted);
+  const std::string before = currentItem() ? pathOf(currentItem()) : std::string();
+  highlight(wanted);
+  if (pathOf(currentItem()) != before) change_();
+}
+
+/// Reads anew down to an existing directory: directories come and go while the dialog is hidden.
+void DirTree::highlight(const std::string& directory) {
+  const QSignalBlocker quiet(this);
+  clear();
+  QTreeWidgetItem* item = makeItem(directory.substr(0, 2) + "\\");
+  addTopLevelItem(item);
+  open(item);
+  std::string_view rest(directory);
+  rest.remove_prefix(2);
+  while (!rest.empty()) {
+    const std::size_t end = std::min(rest.find('\\'), rest.size());
+    if (end > 0) open(item = child(item, std::string(rest.substr(0, end))));
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+  }
+  setCurrentItem(item);
+  scrollTo(currentIndex(), PositionAtCenter);
 }
 
 void DirTree::keyPressEvent(QKeyEvent* event) {
   // Opening everything below would never end where a link leads back.
   if (event->key() != Qt::Key_Asterisk) QTreeWidget::keyPressEvent(event);
-}
-
-void DirTree::choose(const std::string& wanted) {
-  const std::string before = path();
-  {
-    // Read anew each time: directories come and go while the dialog is hidden.
-    const QSignalBlocker quiet(this);
-    clear();
-    QTreeWidgetItem* item = makeItem(wanted.substr(0, 2) + "\\");
-    addTopLevelItem(item);
-    open(item);
-    std::string_view rest(wanted);
-    rest.remove_prefix(2);
-    while (!rest.empty()) {
-      const std::size_t end = std::min(rest.find('\\'), rest.size());
-      if (end > 0) open(item = child(item, std::string(rest.substr(0, end))));
-      rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    setCurrentItem(item);
-  }
-  scrollTo(currentIndex(), PositionAtCenter);
-  if (path() != before) changed();
 }
 
 /// Sideways, Qt would show the middle of the widest name. The beginning of this one is what counts,
@@ -101,6 +122,12 @@ void DirTree::scrollTo(const QModelIndex& index, ScrollHint hint) {
   }
 }
 
+void DirTree::stayInSight(const QTreeWidgetItem* collapsed) {
+  for (auto* above = currentItem(); above; above = above->parent()) {
+    if (above == collapsed) return setCurrentItem(above);
+  }
+}
+
 void DirTree::open(QTreeWidgetItem* item) {
   fill(item);
   item->setExpanded(true);
@@ -108,7 +135,7 @@ void DirTree::open(QTreeWidgetItem* item) {
 
 void DirTree::fill(QTreeWidgetItem* item) {
   qDeleteAll(item->takeChildren());
-  std::vector<std::string> names = directoriesIn(pathOf(item));
+  std::vector<std::string> names = sys::directoriesIn(pathOf(item));
   std::sort(names.begin(), names.end());
   QList<QTreeWidgetItem*> children;
   for (const std::string& name : names) children.append(makeItem(name));
@@ -120,7 +147,7 @@ void DirTree::fill(QTreeWidgetItem* item) {
 
 QTreeWidgetItem* DirTree::child(QTreeWidgetItem* item, const std::string& name) {
   for (int i = 0; i < item->childCount(); ++i) {
-    if (bytesOf(item->child(i)->text(0)) == name) return item->child(i);
+    if (sys::bytesOf(item->child(i)->text(0)) == name) return item->child(i);
   }
   // A hidden directory, or one that was made since: shown because it was asked for.
   auto* made = makeItem(name);

@@ -7,21 +7,19 @@
 
 namespace forms {
 
-/// The parent directory of a path in drive form; a drive's root is its own parent.
-std::string parentOf(const std::string& path);
-
-/// The directories of one drive. Each level is read whenever it is opened.
+/// The directories of one drive as a tree. One click or an arrow key chooses, and what is
+/// highlighted is `Path`. Each level is read whenever it is opened.
 class DirTree final : public QTreeWidget {
  public:
-  explicit DirTree(QWidget* parent);
+  /// `change` comes when another directory is highlighted, by the user or by code.
+  explicit DirTree(QWidget* parent, std::function<void()> change = {});
 
-  /// The highlighted directory, in drive form.
-  std::string path() const;
-  /// Opens the tree down to an existing directory and highlights it.
-  void choose(const std::string& path);
-
-  /// Called when another directory is highlighted, by the user or by `choose`.
-  std::function<void()> changed = [] {};
+  /// The highlighted directory or, where it has gone meanwhile, the nearest one above it; in drive
+  /// form.
+  std::string Path() const;
+  /// A path that names no directory stands for the nearest one above it; one whose drive isn't
+  /// there changes nothing.
+  void setPath(const std::string& path);
 
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
@@ -29,9 +27,13 @@ class DirTree final : public QTreeWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void highlight(const std::string& directory);
   void open(QTreeWidgetItem* item);
   void fill(QTreeWidgetItem* item);
+  void stayInSight(const QTreeWidgetItem* collapsed);
   QTreeWidgetItem* child(QTreeWidgetItem* item, const std::string& name);
+
+  std::function<void()> change_;
 };
 
 }  // namespace forms

@@ -1,190 +1,133 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
-#include <memory>
+#include <QDialog>
+#include <QPointer>
+
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "platform/forms/geometry.h"
+#include "platform/forms/container.h"
 
-class QWidget;
+class QAction;
+class QMenu;
 class QMenuBar;
 
 namespace forms {
 
-class Form;
-class Shell;
-
-enum class Border { FixedSingle, FixedDialog, FixedToolWindow, SizableToolWindow };
+enum class Border { Fixed, FixedTool, SizableTool };
 enum class StartUpPosition { System, CentreScreen, CentreOwner, Manual };
-enum class WindowState { Normal = 0, Minimised = 1, Maximised = 2 };
-enum Mode { vbModeless = 0, vbModal = 1 };
-enum Pointer { vbDefault = 0, vbHourglass = 11 };
 
-/// What never changes about a window, as its catalogue gives it.
+/// What never changes about a window.
 struct FormLook {
   const char* Name;
   const char* Caption;
-  Border BorderStyle;
-  Size Client;
+  QSize Client;  ///< twips
+  Border BorderStyle = Border::Fixed;
   StartUpPosition Position = StartUpPosition::System;
-  bool ControlBox = true;
+  bool ControlBox = true;  ///< has a close box; without one, Alt+F4 is refused too
   bool MinButton = false;
-  /// Carries the program's icon.
-  bool Icon = false;
-  /// Left and top of the client area on the screen, for `StartUpPosition::Manual`.
-  Rect At = {};
+  bool Icon = false;  ///< carries the program's icon
+  /// Of the client area on the screen, in twips, for `StartUpPosition::Manual`.
+  QPoint At = {};
 };
 
-/// What controls can stand in: a form or a frame.
-class Container {
- public:
-  Container(const Container&) = delete;
-  Container& operator=(const Container&) = delete;
-
-  virtual QWidget* host() = 0;
-  virtual Form& form() = 0;
-
-  /// A label lends its caption to the next control that has none, as that control's accessible
-  /// name.
-  void lendLabel(std::string caption) { label_ = std::move(caption); }
-  std::string takeLabel() { return std::exchange(label_, {}); }
-
- protected:
-  Container() = default;
-  virtual ~Container() = default;
-
- private:
-  std::string label_;
-};
-
-/// A window. Each form class has one instance, held by its `Global`, which loads it at first use.
-/// An unloaded form lives on until the event loop has come back, so that a handler may unload the
-/// form that it belongs to.
-class Form : public Container {
+/// A window: a dialog of Qt's with the life that forms have. It is loaded once, by its `Global` at
+/// first use, and may then be shown and hidden any number of times, by Qt's own functions. Unloaded
+/// it is deleted when the event loop is back, so that a handler may unload the form that it belongs
+/// to; the next use makes it anew.
+class Form : public QDialog, public Container {
  public:
   explicit Form(const FormLook& look);
   ~Form() override;
 
-  /// Returns at once.
-  void Show();
-  /// As below, owned by the active form.
-  void Show(Mode mode);
-  /// With `vbModal` returns when the window has been hidden or unloaded. An owner that isn't
-  /// visible only loses its say in where the window opens.
-  void Show(Mode mode, Form& owner);
-  void Hide();
+  /// The loaded forms, in the order in which they were loaded.
+  static const std::vector<Form*>& loaded() { return loaded_; }
+  /// The window of this program that was active last; null before the first one. Message boxes and
+  /// windows of other programs don't count.
+  static Form* active() { return active_; }
+
+  /// Raises `Form_Load`. Only `Global` calls it.
+  void load();
+  /// Raises `Form_Unload`, hides the form and ends it. The program ends with its last form.
   void Unload();
-  /// Paints the window now, for a handler that won't be back in the event loop for a while.
-  void Refresh();
+  bool isLoaded() const { return isLoaded_; }
 
-  const std::string& Caption() const { return caption_; }
+  void setVisible(bool visible) override;
+  /// Blocks the other windows and returns when this one has been hidden or unloaded. A hidden owner
+  /// only affects placement.
+  void showModal(Form* owner = active());
+  /// Like `setWindowTitle`, but "[*]" stands for itself and not for a mark of changes.
   void setCaption(const std::string& caption);
-  bool Visible() const;
-  /// Gives the client area this size in pixels, but none that is larger than the screen.
-  void setClientSize(std::int64_t width, std::int64_t height);
-  /// The client area in twips.
-  int ScaleHeight() const;
-  int ScaleWidth() const;
-  forms::WindowState WindowState() const;
-  Pointer MousePointer() const { return pointer_; }
-  /// Takes effect at once; the way back to the default pointer waits for the event loop, so that a
-  /// long run of short operations doesn't flicker.
-  void setMousePointer(Pointer pointer);
-  /// Tells this window from every other one.
-  const void* hWnd() const { return shell_; }
-
-  QWidget* host() override;
-  Form& form() override { return *this; }
-  QMenuBar* menuBar();
+  /// The hourglass; see `Hourglass`.
+  void beginWait();
+  void endWait();
+  /// The window without its menu bar.
+  QWidget* client() const { return host_; }
 
  protected:
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
+  /// Comes at every `show`, and when the activation moves here from another window of this program.
   virtual void Form_Activate() {}
+  /// Comes at each change of size, and when the window is minimised and restored.
   virtual void Form_Resize() {}
 
- private:
-  friend class Shell;
-  friend class FormCollection;
-  friend class ScreenInfo;
+  QMenu* menu(const char* name, const char* caption);
+  QAction* menuItem(QMenu* menu, const char* name, const char* caption, const char* shortcut,
+                    Handler click, Trait traits = Plain);
+  QAction* separator(QMenu* menu, const char* name);
 
-  void place(Form* owner);
-  void placeBesideMain();
-  void present();
-  void leave();
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  /// Qt would place the window here; see `place`.
+  void showEvent(QShowEvent*) override {}
+  /// Escape.
+  void reject() override;
+
+ private:
+  bool isTool() const { return look_.BorderStyle != Border::Fixed; }
+  void place();
+  void showFocus();
+  bool isBlocked() const;
   void activated();
-  void closeBox();
+  void leave();
+  Form* successor() const;
+
+  inline static std::vector<Form*> loaded_;
+  inline static QPointer<Form> active_;
 
   const FormLook look_;
-  Shell* shell_;
-  std::string caption_;
-  Form* owner_ = nullptr;  ///< while it is shown modally
-  Pointer pointer_ = vbDefault;
-  bool loaded_ = false;
-  bool placed_ = false;
-  bool modal_ = false;
-  bool pointerPending_ = false;
+  QMenuBar* menuBar_ = nullptr;
+  QPointer<Form> owner_;  ///< while it is shown modally
+  bool isLoaded_ = false;
+  bool wasPlaced_ = false;
+  int waits_ = 0;  ///< hourglasses that stand
+  bool isWaitEnding_ = false;
 };
 
-/// The loaded forms, in the order in which they were loaded.
-class FormCollection {
- public:
-  /// Called when the last form has been unloaded.
-  std::function<void()> onLastUnloaded;
-
-  FormCollection() = default;
-  /// At the program's own end no form is left. At a sudden one, as when the screen goes away, the
-  /// windows went before, and the forms are left alone.
-  ~FormCollection() {
-    for (Entry& entry : entries_) static_cast<void>(entry.form.release());
-  }
-  FormCollection(const FormCollection&) = delete;
-  FormCollection& operator=(const FormCollection&) = delete;
-
-  int Count() const { return static_cast<int>(entries_.size()); }
-  Form& operator[](int index) { return *entries_[static_cast<std::size_t>(index)].form; }
-
-  /// Takes a new form and loads it; `*slot` is its global instance until it is unloaded.
-  template <class F>
-  void load(F*& slot) {
-    auto made = std::make_unique<F>();
-    slot = made.get();
-    add(std::move(made), [&slot] { slot = nullptr; });
-  }
-
- private:
-  friend class Form;
-  struct Entry {
-    std::unique_ptr<Form> form;
-    std::function<void()> forget;
-  };
-  void add(std::unique_ptr<Form> form, std::function<void()> forget);
-  void remove(Form& form);
-
-  std::vector<Entry> entries_;
-};
-
-inline FormCollection Forms;
-
-/// The one instance of a form class, reached by the form's name: `frmConvert->Hide()`.
+/// The one instance of a form class, reached by the form's name: `frmConvert->hide()`.
 template <class F>
 class Global {
  public:
   F* operator->() { return &get(); }
   F& operator*() { return get(); }
-  void Load() { get(); }
-  bool isLoaded() const { return instance_ != nullptr; }
+  void load() { get(); }
+  bool isLoaded() const { return form_ && form_->isLoaded(); }
 
  private:
   F& get() {
-    if (!instance_) Forms.load(instance_);
-    return *instance_;
+    if (!isLoaded()) {
+      form_ = new F;
+      form_->load();
+    }
+    return *form_;
   }
 
-  F* instance_ = nullptr;
+  QPointer<F> form_;
 };
 
 }  // namespace forms

@@ -1,78 +1,54 @@
 #include "platform/forms/msg_box.h"
 
 #include <QMessageBox>
+#include <QScreen>
 
-#include "platform/forms/application.h"
+#include <algorithm>
+
+#include "platform/forms/form.h"
+#include "platform/system/application.h"
 #include "platform/system/text.h"
 
 namespace forms {
 
 namespace {
 
-std::function<Answer(const Message&)> answerer;
+static_assert(int{QMessageBox::Critical} == static_cast<int>(Icon::Critical));
+static_assert((QMessageBox::Yes | QMessageBox::No).toInt() == static_cast<int>(Buttons::YesNo));
 
-QMessageBox::StandardButtons standardButtons(Buttons buttons) {
-  switch (buttons) {
-    case Buttons::OKCancel:
-      return QMessageBox::Ok | QMessageBox::Cancel;
-    case Buttons::YesNo:
-      return QMessageBox::Yes | QMessageBox::No;
-    case Buttons::OK:
-      break;
+/// A path has no place to break, and a box doesn't grow beyond some width: there the middle of a
+/// longer one is left out, and the details have the whole.
+void fitPaths(QMessageBox& box) {
+  constexpr int kMargins = 120;
+  const int screen = box.screen()->availableSize().width();
+  const int room = (screen <= 1024 ? screen : std::min(screen - 480, 1000)) - kMargins;
+  QStringList lines = box.text().split(QLatin1Char('\n'));
+  for (QString& line : lines) {
+    if (line.contains(QLatin1Char('\\'))) {
+      line = box.fontMetrics().elidedText(line, Qt::ElideMiddle, room);
+    }
   }
-  return QMessageBox::Ok;
-}
-
-Answer answerOf(int button) {
-  switch (button) {
-    case QMessageBox::Yes:
-      return Answer::Yes;
-    case QMessageBox::No:
-      return Answer::No;
-    case QMessageBox::Cancel:
-      return Answer::Cancel;
-    default:
-      return Answer::OK;
-  }
-}
-
-QMessageBox::Icon iconOf(Icon icon) {
-  switch (icon) {
-    case Icon::Critical:
-      return QMessageBox::Critical;
-    case Icon::Information:
-      return QMessageBox::Information;
-    case Icon::None:
-      break;
-  }
-  return QMessageBox::NoIcon;
-}
-
-/// A long path may break behind each of its separators, since a box breaks lines between words
-/// only.
-QString breakable(const std::string& text) {
-  return shown(text)
-      .replace(QLatin1String("\r\n"), QLatin1String("\n"))
-      .replace(QLatin1Char('\\'), QStringLiteral("\\\u200B"));
+  const QString fitting = lines.join(QLatin1Char('\n'));
+  if (fitting == box.text()) return;
+  box.setDetailedText(box.text());
+  box.setText(fitting);
 }
 
 }  // namespace
 
 Answer MsgBox(const Message& message) {
-  if (answerer) return answerer(message);
-  const QString title = message.title.empty() ? shown(App.Title) : shown(message.title);
-  Form* owner = Screen.ActiveForm();
-  QMessageBox box(iconOf(message.icon), title, breakable(message.text),
-                  standardButtons(message.buttons),
-                  owner && owner->Visible() ? owner->host()->window() : nullptr);
+  Form* owner = Form::active();
+  QMessageBox box(owner && owner->isVisible() ? owner : nullptr);
   box.setObjectName(QStringLiteral("MsgBox"));
   box.setTextFormat(Qt::PlainText);
+  box.setWindowTitle(message.title.empty() ? sys::shown(sys::App.Title)
+                                           : sys::shown(message.title));
+  box.setText(sys::shown(message.text).remove(QLatin1Char('\r')));
+  box.setIcon(static_cast<QMessageBox::Icon>(message.icon));
+  box.setStandardButtons(QMessageBox::StandardButtons::fromInt(static_cast<int>(message.buttons)));
   box.setWindowModality(Qt::ApplicationModal);
-  return answerOf(box.exec());
-}
-
-void answerMessagesWith(std::function<Answer(const Message&)> answer) {
-  answerer = std::move(answer);
+  fitPaths(box);
+  return static_cast<Answer>(box.exec());
 }
 
 }  // namespace forms

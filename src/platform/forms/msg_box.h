@@ -1,13 +1,13 @@
 #pragma once
 
-#include <functional>
 #include <string>
 
 namespace forms {
 
-enum class Buttons { OK, OKCancel, YesNo };
-enum class Icon { None, Critical, Information };
-enum class Answer { OK, Cancel, Yes, No };
+// The values are those of Qt's message box.
+enum class Icon { None = 0, Information = 1, Critical = 3 };
+enum class Answer { OK = 0x400, Yes = 0x4000, No = 0x10000, Cancel = 0x400000 };
+enum class Buttons { OK = 0x400, OKCancel = 0x400400, YesNo = 0x14000 };
 
 /// One message to the user; an empty title stands for the application's.
 struct Message {
@@ -20,9 +20,5 @@ struct Message {
 /// Shows the message over the active form and waits for the button. Escape and the close box answer
 /// what does least: OK, Cancel or No.
 Answer MsgBox(const Message& message);
-
-/// Gives every message to `answer` instead of showing it, until it is called with nothing. For
-/// tests.
-void answerMessagesWith(std::function<Answer(const Message&)> answer);
 
 }  // namespace forms

@@ -10,7 +10,7 @@
 
 #include "platform/system/paths.h"
 
-namespace forms {
+namespace sys {
 
 namespace {
 
@@ -211,4 +211,4 @@ void OutputFile::abandon() {
   ::close(std::exchange(handle_, -1));
 }
 
-}  // namespace forms
+}  // namespace sys

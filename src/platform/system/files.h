@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace forms {
+namespace sys {
 
 /// A normal file is a regular one whose name doesn't begin with a dot. All paths are as in paths.h.
 
@@ -72,4 +72,4 @@ class OutputFile {
   std::int64_t oldSize_ = -1;  ///< of a file that was there before, else -1
 };
 
-}  // namespace forms
+}  // namespace sys

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <cstdlib>
 
-namespace forms {
+namespace sys {
 
 namespace {
 
@@ -71,4 +71,4 @@ std::string_view fileNameOf(std::string_view path) {
   return path.substr(path.rfind('\\') + 1);
 }
 
-}  // namespace forms
+}  // namespace sys

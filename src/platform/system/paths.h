@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace forms {
+namespace sys {
 
 /// Paths are written with a drive and backslashes, and mean files of this system: `Z:` is the root
 /// of its file system, and the other letters are the drives of the user's Wine prefix
@@ -28,4 +28,4 @@ std::string join(std::string_view directory, std::string_view name);
 /// What follows the last backslash of `path`.
 std::string_view fileNameOf(std::string_view path);
 
-}  // namespace forms
+}  // namespace sys

@@ -1,61 +1,51 @@
 #include "platform/system/settings.h"
 
-#include <QSettings>
 #include <QStandardPaths>
 
 #include "platform/system/text.h"
 
-namespace forms {
+namespace sys {
 
-namespace {
-
-QString storePath(const std::string& application) {
-  return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-         QLatin1Char('/') + shown(application) + QLatin1String(".ini");
+Settings::Settings(const std::string& application, const std::string& section)
+    : store_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                 QLatin1Char('/') + shown(application) + QLatin1String(".ini"),
+             QSettings::IniFormat) {
+  store_.beginGroup(shown(section));
 }
 
-QString keyPath(const std::string& section, const std::string& key) {
-  return shown(section) + QLatin1Char('/') + shown(key);
-}
-
-/// A path that isn't valid UTF-8 can only be stored as bytes.
-QVariant stored(const std::string& value) {
-  const QByteArray bytes = QByteArray::fromStdString(value);
-  return bytes.isValidUtf8() ? QVariant(QString::fromUtf8(bytes)) : QVariant(bytes);
-}
-
-}  // namespace
-
-std::string GetSetting(const std::string& application, const std::string& section,
-                       const std::string& key, const std::string& fallback) {
-  const QSettings store(storePath(application), QSettings::IniFormat);
-  const QVariant value = store.value(keyPath(section, key));
+std::string Settings::text(const char* key, const std::string& fallback) const {
+  const QVariant value = store_.value(shown(key));
   return value.isValid() ? value.toByteArray().toStdString() : fallback;
 }
 
-bool GetFlag(const std::string& application, const std::string& section, const std::string& key,
-             bool fallback) {
-  const std::string value = GetSetting(application, section, key, "");
-  if (value == "True") return true;
-  if (value == "False") return false;
-  return fallback;
+bool Settings::flag(const char* key, bool fallback) const {
+  const std::string value = text(key, "");
+  return value == "True" || (value != "False" && fallback);
 }
 
-bool SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                 const std::string& value) {
-  QSettings store(storePath(application), QSettings::IniFormat);
-  store.setValue(keyPath(section, key), stored(value));
-  store.sync();
-  return store.status() == QSettings::NoError;
+void Settings::setText(const char* key, const std::string& value) {
+  // A path that isn't valid UTF-8 can only be stored as bytes.
+  const QByteArray bytes = QByteArray::fromStdString(value);
+  store_.setValue(shown(key), bytes.isValidUtf8() ? QVariant(QString::fromUtf8(bytes)) : bytes);
 }
 
-bool SaveFlag(const std::string& application, const std::string& section, const std::string& key,
-              bool value) {
-  return SaveSetting(application, section, key, std::string(value ? "True" : "False"));
+void Settings::setFlag(const char* key, bool value) {
+  setText(key, value ? "True" : "False");
 }
 
-std::string settingsFile(const std::string& application) {
-  return bytesOf(storePath(application));
+bool Settings::save() {
+  store_.sync();
+  if (store_.status() != QSettings::FormatError) return store_.status() == QSettings::NoError;
+  // A format error met on reading sticks in the status and hides whether writing failed: write once
+  // more through an object that hasn't read anything.
+  QSettings again(store_.fileName(), store_.format());
+  for (const QString& key : again.allKeys()) again.setValue(key, again.value(key));
+  again.sync();
+  return again.status() == QSettings::NoError;
 }
 
-}  // namespace forms
+std::string Settings::file() const {
+  return bytesOf(store_.fileName());
+}
+
+}  // namespace sys

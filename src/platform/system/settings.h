@@ -1,26 +1,32 @@
 #pragma once
 
+#include <QSettings>
+
 #include <string>
 
-namespace forms {
+namespace sys {
 
-/// The settings store: text values by application, section and key, kept in
+/// One section of an application's settings: text values by key, kept in
 /// `$XDG_CONFIG_HOME/<application>.ini`, or in `~/.config` where that isn't set.
+class Settings {
+ public:
+  Settings(const std::string& application, const std::string& section);
 
-/// The value, or `fallback` where the key doesn't exist.
-std::string GetSetting(const std::string& application, const std::string& section,
-                       const std::string& key, const std::string& fallback);
-/// The words True and False; any other value counts as missing.
-bool GetFlag(const std::string& application, const std::string& section, const std::string& key,
-             bool fallback);
+  /// The value, or `fallback` where the key doesn't exist.
+  std::string text(const char* key, const std::string& fallback) const;
+  /// The words True and False; any other value counts as missing.
+  bool flag(const char* key, bool fallback) const;
 
-/// False where the store couldn't be written.
-bool SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                 const std::string& value);
-bool SaveFlag(const std::string& application, const std::string& section, const std::string& key,
-              bool value);
+  void setText(const char* key, const std::string& value);
+  void setFlag(const char* key, bool value);
+  /// Writes what has been set. False where the file couldn't be written.
+  [[nodiscard]] bool save();
 
-/// The store's file, for a message.
-std::string settingsFile(const std::string& application);
+  /// The path of the file, for a message.
+  std::string file() const;
 
-}  // namespace forms
+ private:
+  QSettings store_;
+};
+
+}  // namespace sys

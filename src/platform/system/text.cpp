@@ -1,8 +1,8 @@
 #include "platform/system/text.h"
 
-#include <QStringConverter>
+#include <QByteArrayView>
 
-namespace forms {
+namespace sys {
 
 namespace {
 
@@ -14,31 +14,29 @@ bool isEscaped(const QString& text, qsizetype at) {
   return at == 0 || !text[at - 1].isHighSurrogate();
 }
 
-/// The length of the valid UTF-8 sequence that `bytes` begins with, 0 where there is none.
-std::size_t sequenceLength(std::string_view bytes) {
-  for (std::size_t length = 1; length <= 4 && length <= bytes.size(); ++length) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringConverter::Flag::Stateless);
-    const QString text = decoder(QByteArrayView(bytes.data(), static_cast<qsizetype>(length)));
-    if (!decoder.hasError() && !text.contains(QChar::ReplacementCharacter)) return length;
-  }
-  // The replacement character itself is valid too.
-  return bytes.starts_with("\xEF\xBF\xBD") ? 3 : 0;
+/// How many bytes a UTF-8 sequence has that begins with `lead`.
+std::size_t sequenceLength(unsigned char lead) {
+  return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }
 
 }  // namespace
 
 QString shown(std::string_view bytes) {
-  const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  if (view.isValidUtf8()) return QString::fromUtf8(view);
+  const auto view = [](std::string_view part) {
+    return QByteArrayView(part.data(), static_cast<qsizetype>(part.size()));
+  };
+  if (view(bytes).isValidUtf8()) return QString::fromUtf8(view(bytes));
   QString text;
   while (!bytes.empty()) {
-    const std::size_t length = sequenceLength(bytes);
-    if (length > 0) {
-      text += QString::fromUtf8(bytes.data(), static_cast<qsizetype>(length));
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    std::string_view sequence = bytes.substr(0, sequenceLength(lead));
+    if (view(sequence).isValidUtf8()) {
+      text += QString::fromUtf8(view(sequence));
     } else {
-      text += QChar(static_cast<char16_t>(kEscape + static_cast<unsigned char>(bytes.front())));
+      sequence = bytes.substr(0, 1);
+      text += QChar(static_cast<char16_t>(kEscape + lead));
     }
-    bytes.remove_prefix(length > 0 ? length : 1);
+    bytes.remove_prefix(sequence.size());
   }
   return text;
 }
@@ -59,4 +57,4 @@ std::string bytesOf(const QString& text) {
   return bytes;
 }
 
-}  // namespace forms
+}  // namespace sys

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace forms {
+namespace sys {
 
 /// Texts are bytes, since file names are. On the screen they are shown as UTF-8; a byte that isn't
 /// part of valid UTF-8 becomes one lone surrogate (U+DC80 to U+DCFF), so that every text comes back
@@ -13,4 +13,4 @@ namespace forms {
 QString shown(std::string_view bytes);
 std::string bytesOf(const QString& text);
 
-}  // namespace forms
+}  // namespace sys

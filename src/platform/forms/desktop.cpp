@@ -1,0 +1,60 @@
+#include "platform/forms/desktop.h"
+
+#include <QFont>
+#include <QImageReader>
+#include <QProxyStyle>
+
+#include "platform/system/application.h"
+#include "platform/system/text.h"
+
+namespace forms {
+
+namespace {
+
+/// The windows were laid out for small indicators and tight spacing.
+class CompactStyle final : public QProxyStyle {
+ public:
+  CompactStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    switch (metric) {
+      case PM_IndicatorWidth:
+      case PM_IndicatorHeight:
+        return 13;
+      case PM_CheckBoxLabelSpacing:
+        return 4;
+      default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+  }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+QFont defaultFont() {
+  QFont font;
+  font.setFamilies(
+      {QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("Helvetica")});
+  font.setPixelSize(11);
+  return font;
+}
+
+}  // namespace
+
+Desktop::Desktop(char* programName)
+    : arguments_{programName, nullptr}, application_(count_, arguments_) {
+  QCoreApplication::setApplicationName(sys::shown(sys::App.Title));
+  // The program ends with its main window, also where others are hidden.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setStyle(new CompactStyle);
+  QApplication::setFont(defaultFont());
+  // Qt refuses images above a size that a large picture exceeds; the only ones read are our own.
+  QImageReader::setAllocationLimit(0);
+}
+
+}  // namespace forms

@@ -1,0 +1,73 @@
+#include "platform/forms/file_list.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+#include "platform/system/files.h"
+#include "platform/system/paths.h"
+#include "platform/system/text.h"
+
+namespace forms {
+
+namespace {
+
+/// Without regard to case, where that tells names apart.
+bool comesBefore(const std::string& a, const std::string& b) {
+  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+  const auto [atA, atB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                        [&](char x, char y) { return lower(x) == lower(y); });
+  if (atA == a.end() && atB == b.end()) return a < b;
+  if (atA == a.end() || atB == b.end()) return atA == a.end();
+  return lower(*atA) < lower(*atB);
+}
+
+}  // namespace
+
+FileList::FileList(QWidget* parent, std::string pattern, SelectionMode mode,
+                   std::function<void()> click, std::function<void()> dblClick)
+    : GestureList(parent, mode, std::move(click), std::move(dblClick)),
+      pattern_(std::move(pattern)) {
+  setAccessibleName(QStringLiteral("Files"));
+}
+
+void FileList::setPath(const std::string& path) {
+  path_ = sys::drivePath(path);
+  reload();
+}
+
+void FileList::setPattern(const std::string& pattern) {
+  pattern_ = pattern;
+  reload();
+}
+
+void FileList::reload() {
+  std::vector<std::string> names = sys::filesIn(path_, pattern_);
+  std::sort(names.begin(), names.end(), comesBefore);
+  QStringList texts;
+  texts.reserve(static_cast<qsizetype>(names.size()));
+  for (const std::string& name : names) texts.append(sys::shown(name));
+  setTexts(texts);
+}
+
+std::vector<std::string> FileList::selectedNames() const {
+  const QStringList all = texts();
+  std::vector<bool> isSelected(static_cast<std::size_t>(all.size()));
+  // Read range by range: asked row by row, a scattered selection takes seconds.
+  for (const QItemSelectionRange& range : selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) {
+      isSelected[static_cast<std::size_t>(row)] = true;
+    }
+  }
+  std::vector<std::string> names;
+  for (qsizetype row = 0; row < all.size(); ++row) {
+    if (isSelected[static_cast<std::size_t>(row)]) names.push_back(sys::bytesOf(all[row]));
+  }
+  return names;
+}
+
+std::string FileList::FileName() const {
+  return sys::bytesOf(chosenText());
+}
+
+}  // namespace forms

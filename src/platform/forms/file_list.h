@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/forms/gesture_list.h"
+
+namespace forms {
+
+/// The normal files of one directory whose names match a pattern, in alphabetical order.
+class FileList final : public GestureList {
+ public:
+  FileList(QWidget* parent, std::string pattern, SelectionMode mode,
+           std::function<void()> click = {}, std::function<void()> dblClick = {});
+
+  /// In drive form, also where it was set to a native path. A path that names no directory keeps
+  /// its text and lists nothing.
+  const std::string& Path() const { return path_; }
+  /// Reads the directory and selects nothing.
+  void setPath(const std::string& path);
+  void setPattern(const std::string& pattern);
+
+  /// The selected names, in list order.
+  std::vector<std::string> selectedNames() const;
+  /// The name at the current item; see `GestureList::chosenText`.
+  std::string FileName() const;
+
+ private:
+  void reload();
+
+  std::string path_;
+  std::string pattern_;
+};
+
+}  // namespace forms

@@ -1,0 +1,108 @@
+#include "support/windows.h"
+
+#include <QAction>
+#include <QTest>
+
+#include "conversion/frm_convert.h"
+#include "conversion/frm_info.h"
+#include "conversion/frm_preview_toolbar.h"
+#include "dialogs/frm_about.h"
+#include "dialogs/frm_browse.h"
+#include "dialogs/frm_file_browse.h"
+#include "dialogs/frm_save.h"
+#include "dialogs/frm_splash.h"
+#include "mainwindow/frm_main.h"
+#include "mainwindow/frm_options.h"
+#include "palette/frm_colour.h"
+#include "palette/frm_pal_extract.h"
+#include "palette/frm_pal_select.h"
+#include "palette/frm_pal_toolbar.h"
+
+namespace mill::test {
+namespace {
+
+QString captionOf(const QWidget* control) {
+  const bool hasText = control->inherits("QLabel") || control->inherits("QAbstractButton");
+  return control->property(hasText ? "text" : "title").toString();
+}
+
+/// Whether there is room for the caption.
+bool fits(const QWidget* control) {
+  const QString caption = captionOf(control);
+  if (caption.isEmpty() || dynamic_cast<const forms::ElidedLabel*>(control)) return true;
+  const int width = control->width();
+  if (control->hasHeightForWidth()) return control->heightForWidth(width) <= control->height();
+  const int aside = control->inherits("QCheckBox") ? 17 : control->inherits("QPushButton") ? 4 : 0;
+  return control->fontMetrics().size(Qt::TextShowMnemonic, caption).width() + aside <= width;
+}
+
+using Windows = MainWindowTest;
+
+TEST_F(Windows, ShowEveryControlWholeAndByTheTabKey) {
+  start();
+  const char* const site = "Or vist my Ironveil website at: " MILL_AUTHOR_SITE;
+  // Client size, pixels from its corner through all that the Tab key reaches, and one caption.
+  const std::tuple<forms::Form*, const char*, QSize, int, const char*> windows[] = {
+      {&*frmMain, "Raster Mill", {569, 321}, 3134, "Sh&ow Preview"},
+      {&*frmConvert, "Convert Bitmap", {265, 201}, 328, "Conversion Progess:"},
+      {&*frmPreviewToolbar, "Preview", {305, 233}, 0, ""},
+      {&*frmPalToolbar, "Palette (base.pal)", {128, 129}, 128, ""},
+      {&*frmBrowse, "Browse for Source Directory", {255, 191}, 437, "OK"},
+      {&*frmFileBrowse, "Browse for File", {402, 193}, 587, "OK"},
+      {&*frmSave, "Save File", {399, 233}, 911, "Filename:"},
+      {&*frmPalSelect, "Palette Selection", {489, 177}, 976, "Default"},
+      {&*frmColour, " View/Edit Palette", {361, 377}, 1340, "Orginal"},
+      {&*frmPalExtract, "Palette Extractor", {329, 433}, 1488, "Add KSL Name"},
+      {&*frmInfo, "Picture Information", {210, 177}, 256, "OK"},
+      {&*frmOptions, "Options", {416, 206}, 1708, "Default Soruce directory:"},
+      {&*frmAbout, "About Raster Mill", {449, 257}, 632, site},
+      {&*frmSplash, "", {492, 283}, 687, "CompanyProduct"}};
+  for (const auto& [form, title, client, way, odd] : windows) {
+    form->show();
+    EXPECT_EQ(form->windowTitle(), title);
+    EXPECT_EQ(form->client()->size(), client) << title;
+    EXPECT_EQ(form->minimumSize() == form->maximumSize(), form != &*frmPreviewToolbar) << title;
+    std::set<QString> captions, buttons;
+    QPoint at;
+    int covered = 0;
+    for (auto* control : form->client()->findChildren<QWidget*>(QRegularExpression("^(?!qt_)."))) {
+      const QWidget* parent = control->parentWidget();
+      SCOPED_TRACE(title + control->objectName().toStdString());
+      EXPECT_TRUE(fits(control));
+      // Swatches may lose their last line of pixels, and neighbours may share one.
+      EXPECT_TRUE(parent->rect().adjusted(0, 0, 1, 1).contains(control->geometry()));
+      for (const auto* other : parent->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        const QRect shared = other->geometry() & control->geometry();
+        EXPECT_TRUE(other == control || shared.width() <= 1 || shared.height() <= 1);
+      }
+      captions.insert(captionOf(control));
+      QString name = control->accessibleName();
+      if (name.isEmpty()) name = captionOf(control).remove('&');
+      EXPECT_TRUE(!control->inherits("QAbstractButton") || buttons.insert(name).second);
+      control->setEnabled(true);
+      if (!(control->focusPolicy() & Qt::TabFocus)) continue;
+      EXPECT_FALSE(name.isEmpty());
+      at.isNull() ? control->setFocus() : QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+      EXPECT_EQ(form->focusWidget(), control);
+      const QPoint centre = control->mapTo(form->client(), control->rect().center());
+      EXPECT_TRUE(centre.x() > at.x() || centre.y() > at.y()) << "a step back";
+      covered += (centre - std::exchange(at, centre)).manhattanLength();
+    }
+    EXPECT_EQ(covered, way) << title;
+    EXPECT_EQ(captions.count(odd), 1) << odd;
+  }
+}
+
+TEST_F(Windows, HaveEveryCommandInAMenu) {
+  start();
+  QString found;
+  for (const auto* item : window("frmMain")->findChildren<QAction*>(QRegularExpression("^mnu"))) {
+    found += item->text() + ' ' + item->shortcut().toString() + '|';
+  }
+  EXPECT_EQ(found.toStdString(),
+            "&Preview Ctrl+O|&Convert... Ctrl+C|&Batch Convert... Ctrl+B| |&Exit |"
+            "Change &Palette... Ctrl+P|View &File Info... Ctrl+F|&Options... Ctrl+T|&About... |");
+}
+
+}  // namespace
+}  // namespace mill::test
