@@ -34,13 +34,11 @@ at() {
   "${@:2}"
 }
 
-# browse WHAT KEY... types the path above a folder and browses to the folder with these keys. That
-# another window has the focus meanwhile changes nothing.
+# browse WHAT KEY... types the path above a folder and browses to the folder with these keys.
 browse() {
   at "Raster Mill" fill "$1" "$made"
   click "browse $1"
   at "Browse for $1 Directory" press Tab "${@:2}"
-  xdotool windowfocus "$preview" windowfocus --sync "$window"
   press Return
 }
 

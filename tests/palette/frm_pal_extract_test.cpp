@@ -57,19 +57,6 @@ class Extractor : public test::WindowTest {
   const test::Bytes sky = model::paletteList({{first, 25}, {second, -7}, {third, 25}});
 };
 
-TEST_F(Extractor, TheButtonsFollowWhatIsPickedLoadedAndTyped) {
-  const std::pair<std::function<void()>, std::string> steps[] = {
-      {[&] { pick("sky.ksl"); }, "Load "},
-      {[&] { press("cmdLoad"); }, "Prev Next "},
-      {[&] { test::type(kForm, "lstDest", "x"); }, "Prev Next Save "},
-      {[&] { test::type(kForm, "lstSource", "typed"); }, "Load "},
-      {[&] { press("cmdLoad"); }, "Prev Next Save "}};  // the file picked, not the text
-  for (const auto& [act, expected] : steps) {
-    act();
-    EXPECT_EQ(usable(), expected) << "step " << &act - &steps[0].first;
-  }
-}
-
 TEST_F(Extractor, AListIsShownFromItsPlaceAndABadOneChangesNothing) {
   const char* invalid = "This file is not a valid palette list.";
   // The number of palettes in the head, and the size of the file.

@@ -26,7 +26,9 @@ void ElidedLabel::showText(const std::string& text) {
   setText(sys::shown(text));
   const bool isWhole = frameWidth() == 0 && fits(this->text());
   const bool looksRich = Qt::mightBeRichText(this->text());
-  setToolTip(isWhole ? QString() : looksRich ? this->text().toHtmlEscaped() : this->text());
+  setToolTip(isWhole     ? QString()
+             : looksRich ? QLatin1String("<p>") + this->text().toHtmlEscaped()
+                         : this->text());
   setAccessibleDescription(this->text());
 }
 

@@ -114,7 +114,7 @@ void Form::setVisible(bool visible) {
 void Form::showModal(Form* owner) {
   // Qt can make only a window modal that comes up anew.
   hide();
-  owner_ = owner;
+  owner_ = owner == this ? nullptr : owner;
   exec();
 }
 

