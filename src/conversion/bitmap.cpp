@@ -17,7 +17,7 @@ namespace mill {
 
 namespace {
 
-/// The source pixel under the centre of each of `wanted` pixels laid over `given`.
+/// The index of the source pixel, of `given`, under the centre of each of the `wanted` pixels.
 std::vector<int> sources(int given, int wanted) {
   std::vector<int> from(static_cast<std::size_t>(wanted));
   for (int i = 0; i < wanted; ++i) {
@@ -27,7 +27,7 @@ std::vector<int> sources(int given, int wanted) {
   return from;
 }
 
-/// Qt's own fast way samples in steps of 1/4096 and drifts.
+/// Qt's fast scaling samples in steps of 1/4096 and drifts.
 QImage stretched(const QImage& image, int width, int height) {
   if (image.format() != QImage::Format_Indexed8) {
     return image.scaled(width, height, Qt::IgnoreAspectRatio, Qt::FastTransformation);
@@ -45,7 +45,7 @@ QImage stretched(const QImage& image, int width, int height) {
   return result;
 }
 
-/// Null where it can't be read.
+/// Null if it can't be read.
 QByteArray readWhole(const std::string& path) {
   sys::InputFile file(path);
   if (!file.isOpen()) return {};
@@ -55,8 +55,8 @@ QByteArray readWhole(const std::string& path) {
   return bytes;
 }
 
-/// The reader takes rows of a multiple of four bytes, which not every writer gives. What the last
-/// rows lack then is colour 0, and not what happens to be in memory.
+/// Qt expects rows of a multiple of four bytes, which not every file has. The bytes missing at the
+/// end become colour 0 instead of whatever is in memory.
 void addMissingPadding(QByteArray& bytes) {
   constexpr qsizetype kHeightAt = 22;
   if (bytes.size() < kHeightAt + 4) return;
@@ -64,7 +64,7 @@ void addMissingPadding(QByteArray& bytes) {
   bytes.append(3 * std::min<qsizetype>(std::abs(qint64{height}), bytes.size()), '\0');
 }
 
-/// Filled before, since a run-length bitmap may skip pixels, which the reader then leaves alone.
+/// Filled with colour 0 first, since the reader leaves out pixels that a run-length bitmap skips.
 QImage readImage(QByteArray bytes) {
   addMissingPadding(bytes);
   QBuffer buffer(&bytes);

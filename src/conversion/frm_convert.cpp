@@ -42,13 +42,13 @@ void ConvertForm::cmdYes_Click() {
   Progress1->paintNow();
   Progress2->paintNow();
   state.PictureFileName.clear();
-  // Drops what was clicked and typed meanwhile: this window is modal, and its buttons are disabled.
+  // Discards clicks and keys of the meantime: this window is modal and its buttons are disabled.
   QCoreApplication::processEvents();
   enableButtons(true);
   hide();
 }
 
-/// Every picture would be written over itself; said once, and not for each of them.
+/// Every picture would overwrite itself; warn once instead of for each of them.
 bool ConvertForm::directoriesAreOne() const {
   if (!sys::isSame(sourceDirectory(), destinationDirectory())) return false;
   warn(Fault::SameDirectory);
@@ -76,7 +76,7 @@ void ConvertForm::convertSelection() {
   }
 }
 
-/// False where a bitmap couldn't be written; a picture that was refused isn't tried.
+/// False if the bitmap couldn't be written. A refused picture isn't written and counts as success.
 bool ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
   Progress2->setValue(100);
   Progress1->setValue(0);

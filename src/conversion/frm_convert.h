@@ -11,23 +11,22 @@
 
 namespace mill {
 
-/// Asks before a conversion, runs it over the selected files, and shows how far reading and writing
-/// have come. Hidden, never unloaded, after use.
+/// Asks before a conversion, runs it over the selected files, and shows the progress of reading and
+/// writing. Hidden, not unloaded, after use.
 class ConvertForm final : public forms::Form {
  public:
   ConvertForm();
 
-  /// Where the selected files are, and where the bitmaps go. The main window answers both, at the
-  /// moment they are asked.
+  /// Where the selected files are and where the bitmaps go; provided by the main window.
   std::function<std::string()> sourceDirectory;
   std::function<std::string()> destinationDirectory;
 
-  /// `times` reports of `num` more bytes written.
+  /// Reports `num` bytes written, `times` times.
   void incProgress(std::int16_t num, std::int32_t times = 1);
-  /// `times` reports of `num` more bytes read.
+  /// Reports `num` bytes read, `times` times.
   void incOpenProgress(std::int16_t num, std::int32_t times = 1);
 
-  /// What both bars count against; `total` and `current` are set before a read or write.
+  /// The count behind both bars; `total` and `current` are set before a read or write.
   ProgressCount count;
 
  private:

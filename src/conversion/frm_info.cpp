@@ -9,7 +9,7 @@ namespace mill {
 
 namespace {
 
-/// A number as text takes one place for its sign, which is blank where there is none.
+/// With a leading blank in place of a missing minus sign.
 std::string withSign(std::int32_t number) {
   const std::string digits = std::to_string(number);
   return number < 0 ? digits : ' ' + digits;

@@ -5,8 +5,7 @@
 
 namespace mill {
 
-/// The five facts of the open picture. Reads the state once, while it loads, and changes nothing.
-/// Only its button closes it.
+/// Five facts about the open picture, read once when the window loads. Only its button closes it.
 class InfoForm final : public forms::Form {
  public:
   InfoForm();

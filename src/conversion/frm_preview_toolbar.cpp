@@ -23,10 +23,10 @@ void PreviewForm::Form_Load() {
   hooks.fitPreview = [this](std::int32_t width, std::int32_t height) { fit(width, height); };
 }
 
-/// The client area gets the picture's size, but none that is larger than the screen.
+/// Gives the client area the picture's size, limited to the screen.
 void PreviewForm::fit(std::int32_t width, std::int32_t height) {
   const QSize most = screen()->virtualSize();
-  // A bitmap whose rows run from the top has a negative height.
+  // Top-down bitmaps have a negative height.
   const std::int64_t rows = std::abs(std::int64_t{height});
   resize(std::clamp(width, 1, most.width()),
          static_cast<int>(std::clamp<std::int64_t>(rows, 1, most.height())));

@@ -12,10 +12,10 @@ class PreviewForm final : public forms::Form {
   PreviewForm();
 
   QSize boxSize() const { return Picture1->size(); }
-  /// Shows the top left `part` of `PreviewDC`; nothing where there is none.
+  /// Shows the top left `part` of `PreviewDC`, or nothing if that is null.
   void paintPreview(const QSize& part);
 
-  bool isShowing = false;  ///< while `ShowPreview` runs, messages included
+  bool isShowing = false;  ///< while `ShowPreview` is running, including its message
 
  private:
   void Form_Load() override;

@@ -12,7 +12,7 @@ class PictureBox final : public QWidget {
  public:
   using QWidget::QWidget;
 
-  /// Shows the top left `part` of `image`; an image without pixels clears the box.
+  /// Shows the top left `part` of `image`; a null image clears the box.
   void showImage(const QImage& image, const QSize& part) {
     image_ = image;
     part_ = part.boundedTo(image.size());
@@ -21,7 +21,7 @@ class PictureBox final : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override {
-    // Only what is exposed is copied, since painting converts all that it is given.
+    // Painting converts the whole image it is given, so pass only the exposed part.
     const QRect exposed = event->rect().intersected(QRect({}, part_));
     if (!exposed.isEmpty()) QPainter(this).drawImage(exposed, image_.copy(exposed));
   }

@@ -18,7 +18,7 @@ namespace mill {
 namespace {
 
 QSize sizeOf(const PictureRecord& record) {
-  // The height of a bitmap whose rows run from the top is negative.
+  // Top-down bitmaps have a negative height.
   const std::int64_t rows = std::abs(std::int64_t{record.biHeight});
   return {record.biWidth, static_cast<int>(std::min<std::int64_t>(rows, INT32_MAX))};
 }
@@ -40,7 +40,7 @@ std::shared_ptr<const QImage> LoadBitmapDC(const std::string& path) {
 }
 
 void ShowPreview() {
-  // Resized while it has a message open, the window brings no further ones.
+  // Resizing the window while its message is open must not show another one.
   bool& isShowing = frmPreviewToolbar->isShowing;
   if (state.TempPicturePath.empty() || std::exchange(isShowing, true)) return;
   const forms::Hourglass hourglass;

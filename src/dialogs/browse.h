@@ -6,13 +6,13 @@
 
 namespace mill {
 
-/// Lets the user pick a directory, beginning at `start`. It is in `BrowseResult` then, which is
+/// Lets the user pick a directory, starting at `start`. The result is in `BrowseResult`; it is
 /// empty after Cancel.
 void browseForDirectory(const char* caption, const std::string& start, forms::Form& owner);
 
-/// Lets the user pick a palette file, beginning in the directory of the file `start`. Its directory
-/// is in `BrowseResult` then and its name in `FileResult`, which is empty where none was picked;
-/// both are empty after Cancel.
+/// Lets the user pick a palette file, starting in the directory of the file `start`. The directory
+/// ends up in `BrowseResult` and the name in `FileResult`, which is empty if no file was picked.
+/// Both are empty after Cancel.
 void browseForPalette(const std::string& start, forms::Form& owner);
 
 }  // namespace mill

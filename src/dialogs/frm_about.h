@@ -4,8 +4,8 @@
 
 namespace mill {
 
-/// Tells the program's name, its version and whom to write to, and opens the read-me file. The main
-/// window stays usable beside it.
+/// Shows the program's name, version and authors, and opens the read-me file. The main window stays
+/// usable.
 class AboutForm final : public forms::Form {
  public:
   AboutForm();

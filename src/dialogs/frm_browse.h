@@ -6,9 +6,9 @@
 
 namespace mill {
 
-/// Picks a directory. `BrowseResult` carries the directory to start in and brings back the chosen
-/// one; empty means Cancel. The buttons only hide the window, so an empty start keeps the last
-/// place.
+/// Picks a directory. `BrowseResult` holds the start directory before and the chosen one
+/// afterwards; empty means Cancel. The buttons only hide the window, so an empty start keeps the
+/// last place.
 class BrowseForm final : public forms::Form {
  public:
   BrowseForm();

@@ -7,9 +7,9 @@
 
 namespace mill {
 
-/// Picks an existing file. `BrowseResult` carries a path whose directory is where to start, and
-/// brings back the chosen directory; `FileResult` brings back the chosen name, empty where none was
-/// chosen. Both are empty after Cancel. The buttons only hide the window.
+/// Picks an existing file. It starts in the directory of the path in `BrowseResult` and returns the
+/// chosen directory there and the name in `FileResult`, which is empty if none was chosen. Both are
+/// empty after Cancel. The buttons only hide the window.
 class FileBrowseForm final : public forms::Form {
  public:
   FileBrowseForm();

@@ -7,10 +7,10 @@
 
 namespace mill {
 
-/// Picks a file or takes a new name, for loading and saving alike. `BrowseResult` carries a path
-/// whose directory is where to start, and brings back the chosen directory; `FileResult` brings
-/// back the name as it was typed. Both are empty after Cancel. The buttons only hide the window,
-/// and the name stays for the next use.
+/// Picks a file or takes a new name, for loading and saving. It starts in the directory of the path
+/// in `BrowseResult` and returns the chosen directory there and the name as typed in `FileResult`.
+/// Both are empty after Cancel. The buttons only hide the window, so the name is kept for the next
+/// use.
 class SaveForm final : public forms::Form {
  public:
   SaveForm();

@@ -5,15 +5,14 @@
 
 namespace mill {
 
-/// The program's name and version with its picture, in a window without a title bar, which stays
-/// until its button or the frame is clicked. Nothing opens it so far: the main window is there
-/// before anybody could read it.
+/// The program's name, version and logo in a window without title bar. It stays until its button or
+/// the frame is clicked. Nothing opens it: the main window is up before anybody could read it.
 class SplashForm final : public forms::Form {
  public:
   SplashForm();
 
  protected:
-  /// Clicks on the frame come here; those on what stands in it don't.
+  /// Receives clicks on the frame, but not on its contents.
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:

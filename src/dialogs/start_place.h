@@ -8,15 +8,15 @@
 
 namespace mill {
 
-/// Takes the lists of a browse dialog to a directory and its drive.
+/// Moves the lists of a browse dialog to a directory and its drive.
 inline void startAt(forms::DriveBox& drives, forms::DirTree& directories, const std::string& path) {
   const std::string place = sys::drivePath(path);
   drives.setDrive(place.substr(0, 2));
   directories.setPath(place);
 }
 
-/// The same for the directory of a file: what follows the last backslash is dropped, so that a path
-/// without one leaves the directory alone.
+/// The same for the directory of a file: the part after the last backslash is dropped, so a path
+/// without one leaves the directory unchanged.
 inline void startAtFile(forms::DriveBox& drives, forms::DirTree& directories,
                         const std::string& path) {
   const std::string file = sys::drivePath(path);

@@ -66,7 +66,7 @@ void MainForm::setCheckBoxes() {
 }
 
 void MainForm::Form_Unload() {
-  // The last loaded goes first; this window is the first of all.
+  // In reverse loading order; this window was loaded first.
   while (loaded().size() > 1) loaded().back()->Unload();
   hooks = {};
   state.PreviewDC.reset();
@@ -75,7 +75,7 @@ void MainForm::Form_Unload() {
 
 void MainForm::Form_Resize() {
   if (isMaximized()) return;
-  // The tool windows go and come with this one.
+  // The tool windows are hidden and shown together with this one.
   if (state.ShowPal) frmPalToolbar->setVisible(!isMinimized());
   if (state.ShowPrev) frmPreviewToolbar->setVisible(!isMinimized());
 }

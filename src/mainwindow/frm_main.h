@@ -10,11 +10,11 @@
 
 namespace mill {
 
-/// The main window, and with it the program: everything before the user's first action happens in
-/// its `Form_Load`, and the process ends when it is unloaded.
+/// The main window. Its `Form_Load` is the start-up of the program, and unloading it ends the
+/// process.
 ///
-/// Three files hold its handlers: start-up and shut-down in frm_main.cpp, the directory boxes and
-/// the file list in frm_main_selection.cpp, commands and check boxes in frm_main_commands.cpp.
+/// The handlers are in three files: start-up and shut-down in frm_main.cpp, directory boxes and
+/// file list in frm_main_selection.cpp, commands and check boxes in frm_main_commands.cpp.
 class MainForm final : public forms::Form {
  public:
   MainForm();

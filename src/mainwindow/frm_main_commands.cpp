@@ -56,7 +56,7 @@ void MainForm::mnuAbout_Click() {
   frmAbout->show();
 }
 
-/// Afterwards the main window is the active one again.
+/// The main window is active again afterwards.
 void MainForm::showToolWindow(forms::Form& window, bool shown) {
   window.setVisible(shown);
   if (shown) show();
@@ -89,7 +89,7 @@ void MainForm::chkAutoPal_Click() {
   chkSearch->setEnabled(state.AutoPal);
 }
 
-// Each command is a button and a menu item, switched together.
+// Each command has a button and a menu item, which are enabled together.
 
 void MainForm::enableOpen(bool enabled) {
   cmdOpen->setEnabled(enabled);

@@ -27,7 +27,7 @@ void MainForm::filSource_Click() {
 void MainForm::recordSelection() {
   std::vector<std::string> names = filSource->selectedNames();
   state.SelectedCount = static_cast<std::int32_t>(names.size());
-  // Without any, the names stay, and only the count says that they are none.
+  // If nothing is selected, only the count changes.
   if (!names.empty()) state.SelectedFiles = std::move(names);
 }
 
@@ -51,7 +51,7 @@ void MainForm::filSource_DblClick() {
       !state.IsStandardBitmap) {
     cmdConvert_Click();
   }
-  // A conversion leaves no picture open, so that the same file is opened again here.
+  // After a conversion no picture is open, so the same file is opened again here.
   if (state.SelectedCount == 1 && state.PictureFileName != filSource->FileName()) cmdOpen_Click();
 }
 

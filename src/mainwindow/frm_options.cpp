@@ -11,7 +11,7 @@ namespace mill {
 
 namespace {
 
-/// Asks where both directories are one; false when the user doesn't mean that.
+/// Asks the user if both directories are the same; false if the answer is Cancel.
 bool mayBeUsed(const std::string& source, const std::string& dest) {
   if (dest != source) return true;
   return forms::MsgBox({.text = std::string(message(Fault::SameDirectory)) +
@@ -33,7 +33,7 @@ OptionsForm::OptionsForm()
 void OptionsForm::Form_Load() {
   showDirectories();
   txtPalette->setText(sys::shown(state.DefaultPalette));
-  cmdApply->setEnabled(false);  // which filling the boxes has enabled
+  cmdApply->setEnabled(false);  // filling the boxes has enabled it
 }
 
 void OptionsForm::showDirectories() {
@@ -54,7 +54,7 @@ void OptionsForm::cmdOK_Click() {
   Unload();
 }
 
-/// The palette is stored whatever becomes of the directories.
+/// The palette is stored regardless of the answer about the directories.
 void OptionsForm::cmdApply_Click() {
   if (mayBeUsed(sys::bytesOf(txtSource->text()), sys::bytesOf(txtDest->text()))) storeDirectories();
   showDirectories();
@@ -64,7 +64,7 @@ void OptionsForm::cmdApply_Click() {
 
 void OptionsForm::chooseDirectory(const char* caption, QLineEdit& box, const QLineEdit& other) {
   browseForDirectory(caption, sys::bytesOf(box.text()), *this);
-  // Asked after a Cancel too, which equals an empty box.
+  // Also asked after Cancel, whose empty result equals an empty box.
   const bool usable = mayBeUsed(state.BrowseResult, sys::bytesOf(other.text()));
   if (usable && !state.BrowseResult.empty()) box.setText(sys::shown(state.BrowseResult));
 }

@@ -4,8 +4,8 @@
 
 namespace mill {
 
-/// Edits three defaults: the two directories that the program starts with, and the palette for
-/// pictures that have none. The main window's boxes follow at the next start.
+/// Edits three defaults: the directories that the program starts with and the palette for pictures
+/// without one. The main window shows them after the next start.
 class OptionsForm final : public forms::Form {
  public:
   OptionsForm();

@@ -2,10 +2,10 @@
 
 namespace mill {
 
-/// The ten settings, in the order in which they are read and written: four paths and six flags.
+/// Reads and writes the ten settings, four paths and six flags, in a fixed order.
 
 void readSettings();
-/// All ten, whether they have changed or not. A failure brings a message.
+/// Writes all ten, changed or not. Shows a message on failure.
 void writeSettings();
 
 }  // namespace mill

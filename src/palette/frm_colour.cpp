@@ -13,7 +13,7 @@ namespace mill {
 
 namespace {
 
-/// A number outside the range of a byte counts as the nearest one inside.
+/// The number in a box, limited to the range of a byte.
 std::uint8_t byteOf(const QLineEdit& box) {
   return static_cast<std::uint8_t>(numberOf(sys::bytesOf(box.text()), 0, 255));
 }
@@ -34,7 +34,7 @@ ColourForm::ColourForm()
             .Client = {5415, 5655},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {
-  cmdOK->setFocus();  // Enter at once means OK
+  cmdOK->setFocus();  // pressing Enter right away means OK
 }
 
 void ColourForm::Form_Load() {
@@ -95,7 +95,7 @@ std::string ColourForm::pickFile(const char* caption) {
   state.FilePattern = "*.pal";
   frmSave->setCaption(caption);
   frmSave->showModal(this);
-  // The close box unloads the dialog and leaves the names as they were; that chooses nothing.
+  // The close box unloads the dialog without changing the names; that isn't a choice.
   const bool chosen =
       frmSave.isLoaded() && !state.BrowseResult.empty() && !state.FileResult.empty();
   if (chosen) return sys::join(state.BrowseResult, state.FileResult);
@@ -111,7 +111,7 @@ void ColourForm::keepFile() {
 void ColourForm::cmdLoad_Click() {
   const std::string path = pickFile("Load Palette File");
   if (path.empty()) return;
-  std::string head;  // dropped: a file saved here gets that of the palette in use
+  std::string head;  // unused: files saved here get the head of the current palette
   if (!readPaletteFile(path, head, WorkingPalette)) return keepFile();
   hasFile_ = true;
   palette1->setColours(WorkingPalette);

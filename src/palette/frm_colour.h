@@ -10,15 +10,15 @@
 
 namespace mill {
 
-/// The palette editor. Everything happens on a copy: an edit leaves the window only as a file, and
-/// OK makes the file that was loaded or saved here last the current palette.
+/// The palette editor. It works on a copy: edits leave the window only as a file, and OK makes the
+/// file last loaded or saved here the current palette.
 class ColourForm final : public forms::Form {
  public:
   ColourForm();
 
-  /// Makes entry `index` the one on show.
+  /// Shows entry `index`.
   void showColour(int index);
-  /// Shows the colour of the three boxes beside the entry's own.
+  /// Shows the colour of the three boxes next to that of the entry.
   void newColour();
 
  private:
@@ -34,13 +34,13 @@ class ColourForm final : public forms::Form {
 
   ColourEntry boxColour() const;
   void showNumbers(const ColourEntry& entry);
-  /// Lets the user pick a file; its full path, empty on Cancel.
+  /// Lets the user pick a file and returns its full path, empty on Cancel.
   std::string pickFile(const char* caption);
-  /// Puts back the names of the file that counted before `pickFile`.
+  /// Restores the names that were set before `pickFile`.
   void keepFile();
 
   ColourTable WorkingPalette{};
-  /// Whether `BrowseResult` and `FileResult` name a file that was loaded or saved here.
+  /// Whether `BrowseResult` and `FileResult` name a file loaded or saved here.
   bool hasFile_ = false;
   std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `pickFile`
   std::string nameBefore_;

@@ -31,7 +31,7 @@ Fault readList(const std::string& path, std::vector<ListPalette>& palettes) {
   return readPaletteList(count, rest, palettes);
 }
 
-/// The name of a list file without its last four characters, whatever they are.
+/// The file name without its last four characters, whatever they are.
 std::string baseName(const std::string& listFile) {
   const std::string withoutEnd =
       listFile.substr(0, listFile.size() - std::min<std::size_t>(4, listFile.size()));
@@ -117,7 +117,7 @@ std::string PalExtractForm::outputDirectory() const {
   return AddListName ? sys::join(ExtractDir, baseName(ListFile)) : ExtractDir;
 }
 
-/// False, with a message, where the palette on show couldn't be written.
+/// False, after a message, if the current palette couldn't be written.
 bool PalExtractForm::savePalette() const {
   const std::string directory = outputDirectory();
   const std::string path = sys::join(directory, std::to_string(onShow().Index) + ".pal");
@@ -129,7 +129,7 @@ bool PalExtractForm::savePalette() const {
 }
 
 void PalExtractForm::cmdSave_Click() {
-  // The focus comes back to it, so that the next Enter doesn't mean "Done".
+  // Restore the focus, so that the next Enter doesn't press "Done".
   const bool hadFocus = cmdSave->hasFocus();
   cmdSave->setEnabled(false);
   if (savePalette()) forms::MsgBox({.text = "Palette file saved!"});

@@ -11,8 +11,8 @@
 
 namespace mill {
 
-/// Shows the palettes of a list file one at a time and writes the one on show as a palette file
-/// named after its index, under which the palette search finds it.
+/// Shows the palettes of a list file one at a time and saves the current one as a palette file
+/// named after its index, so that the palette search finds it.
 class PalExtractForm final : public forms::Form {
  public:
   PalExtractForm();

@@ -12,7 +12,7 @@ PalSelectForm::PalSelectForm()
             .Client = {7335, 2655},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {
-  // Long paths differ at their ends.
+  // Long paths usually differ at the end.
   lstPalette->setTextElideMode(Qt::ElideLeft);
   lstPalette->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -27,7 +27,7 @@ void PalSelectForm::cmdPrev_Click() {
   state.CurrentPaletteFile = selectedPath();
   LoadPalette();
   renewPreview();
-  // Only the path goes back: the search loads the chosen palette when the dialog has ended.
+  // Restore only the path: the search loads the chosen palette when the dialog has closed.
   state.CurrentPaletteFile = saved;
 }
 

@@ -9,8 +9,8 @@
 
 namespace mill {
 
-/// Settles which of several palette files is taken. It ends with OK or Default only, and leaves the
-/// choice in `CurrentPaletteFile`; a file can be tried on the open picture before.
+/// Lets the user choose one of several palette files, after trying them on the open picture. Only
+/// OK and Default close it; the choice is stored in `CurrentPaletteFile`.
 class PalSelectForm final : public forms::Form {
  public:
   PalSelectForm();

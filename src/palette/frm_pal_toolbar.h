@@ -5,8 +5,8 @@
 
 namespace mill {
 
-/// Shows the current palette as swatches, with the name of its file in the title. Up to date after
-/// each load while `ShowPal` is on, and whenever it is activated.
+/// Shows the current palette as swatches, with its file name in the title. Updated by every load
+/// while `ShowPal` is on, and whenever it is activated.
 class PalToolbarForm final : public forms::Form {
  public:
   PalToolbarForm();

@@ -21,11 +21,11 @@ int numberOf(std::string_view text, int lowest, int highest) {
   const bool negative = text.starts_with('-');
   if (negative || text.starts_with('+')) text.remove_prefix(1);
   double number = 0;
-  // Words such as "inf" would be taken for numbers too.
+  // from_chars would also accept words such as "inf".
   if (beginsNumber(text)) {
     const auto end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
-    // Too large or too small to be told from 0: the digits ahead of the point say which.
+    // Out of range means too large or too close to 0; the digits before the point tell which.
     const auto whole = text.substr(0, text.find('.'));
     const bool large = whole.find_first_of("123456789") < whole.find_first_not_of("0123456789");
     if (result.ec == std::errc::result_out_of_range) number = large ? HUGE_VAL : 0;

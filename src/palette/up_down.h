@@ -10,8 +10,8 @@
 
 namespace mill {
 
-/// The arrows of a spin box for the number in a text box elsewhere, its buddy: a step writes the
-/// next number from `min` to `max` there.
+/// The arrows of a spin box that change the number in another text box, its buddy, between `min`
+/// and `max`.
 class UpDown final : public QAbstractSpinBox {
  public:
   UpDown(QWidget* parent, QLineEdit* buddy, int min, int max)

@@ -9,7 +9,7 @@ out='' home='' screen='' manager='' program=''
 
 # fail MESSAGE... ends the test, with a picture of the whole screen in OUT.
 fail() {
-  echo "desktop: $*" >&2
+  echo "desktop: $*; in use was '$(xdotool getactivewindow getwindowname 2>/dev/null)'" >&2
   [[ ! $screen ]] || import -window root "$out/failure.png" || true
   [[ ! -s $out/program.log ]] || cat "$out/program.log" >&2
   exit 1

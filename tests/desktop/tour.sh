@@ -65,7 +65,7 @@ shows_bitmap() {
 }
 
 # pixels_in FILE prints a bitmap as a portable pixmap. The reader knows nothing of this program.
-pixels_in() { bmptopnm "$1" 2>/dev/null | ppmtoppm; }
+pixels_in() { bmptopnm "$1" | ppmtoppm; } 2>/dev/null
 
 # check_bitmap NAME: the picture became a bitmap of its size in the colours of its index. Where rows
 # need no padding, two readers that know nothing of this program see the same pixels.
@@ -129,6 +129,7 @@ press Return
 rm "$temp/temp.bmp"
 at " View/Edit Palette" click Use
 expect_preview edited.pal
+cmp -n 1024 -i 54:24 "$temp/temp.bmp" "$palettes/day/edited.pal" || fail "it was saved elsewhere"
 [[ $(od -An -tu1 -j$((56 + 4 * 108)) -N1 "$temp/temp.bmp") -eq 200 ]] || fail "no colour was set"
 at "Raster Mill" press ctrl+f
 at "Picture Information" screenshot info
@@ -154,6 +155,7 @@ at "Raster Mill" press alt+f e
 wait_for_end
 
 for picture in "$pictures"/*; do check_bitmap "$(basename "$picture")"; done
+cmp -n 1024 -i 54:24 "$converted/HARBOUR.BMP" "$palettes/night/25.pal" || fail "it wasn't chosen"
 cmp -n 1024 -i 24:52 "$made/25.pal" "$palettes/ironveil.ksl" || fail "another palette was taken"
 drive=Z:${made//\//\\\\}\\\\
 for setting in "Source=${drive}pictures" "Dest=${drive}converted" "PalDir=${drive}palettes" \

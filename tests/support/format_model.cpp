@@ -108,14 +108,4 @@ Bytes paletteList(const std::vector<ListRecord>& records) {
   return file;
 }
 
-std::function<bool(std::span<std::uint8_t>)> reader(const Bytes& bytes, std::size_t at,
-                                                    std::size_t end) {
-  return [&bytes, at, end](std::span<std::uint8_t> to) mutable {
-    if (at + to.size() > std::min(end, bytes.size())) return false;
-    std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(at), to.size(), to.begin());
-    at += to.size();
-    return true;
-  };
-}
-
 }  // namespace model

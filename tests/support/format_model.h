@@ -3,8 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -46,9 +44,5 @@ struct ListRecord {
 };
 /// A palette list. A colour of `extra` 255 has red first in it, any other has blue first.
 Bytes paletteList(const std::vector<ListRecord>& records);
-
-/// A device that reads `bytes` from `at` on and fails once it would pass `end`.
-std::function<bool(std::span<std::uint8_t>)> reader(const Bytes& bytes, std::size_t at,
-                                                    std::size_t end);
 
 }  // namespace model

@@ -22,7 +22,7 @@ ComboBox::ComboBox(QWidget* parent, std::function<void()> change, std::function<
   setEditable(true);
   setInsertPolicy(NoInsert);
   setCompleter(nullptr);
-  // When the typing ends on an entry's text, Qt would report that as a pick.
+  // Qt would report typing an entry's text as picking it.
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
   connect(lineEdit(), &QLineEdit::textEdited, this, change_);
   connect(this, &QComboBox::activated, this, click ? std::move(click) : change_);
@@ -41,7 +41,7 @@ void ComboBox::setText(const std::string& text) {
 }
 
 void ComboBox::AddItem(const std::string& entry) {
-  // A first entry would become the current one and the text.
+  // Qt would make the first entry the current text.
   const QSignalBlocker quiet(this);
   const QString text = currentText();
   const int index = currentIndex();
@@ -62,7 +62,7 @@ DriveBox::DriveBox(QWidget* parent, std::function<void()> change) : CalmComboBox
   if (change) connect(this, &QComboBox::currentIndexChanged, this, std::move(change));
 }
 
-/// Drives come and go; the present one stays where it is still there.
+/// Drives may have changed; the current one is kept if it still exists.
 void DriveBox::readDrives() {
   const QSignalBlocker quiet(this);
   const QString present = currentText();

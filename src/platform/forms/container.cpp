@@ -16,7 +16,7 @@ void Button::initStyleOption(QStyleOptionButton* option) const {
 
 void Button::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  // Qt's own button takes Enter with Ctrl, Alt and Shift too, and again and again while it is held.
+  // Qt's button also reacts to Ctrl, Alt or Shift with Enter, and repeats while Enter is held.
   isEnter ? event->ignore() : QPushButton::keyPressEvent(event);
 }
 
@@ -32,7 +32,7 @@ QLabel* Container::label(const char* name, const char* caption, const Place& pla
   label->setWordWrap(true);
   label->setAlignment(lettering.Alignment | Qt::AlignTop);
   label->setText(QString::fromUtf8(caption));
-  // A click on a label isn't one on what it stands in.
+  // Clicking a label isn't clicking its container.
   label->setAttribute(Qt::WA_NoMousePropagation);
   QFont letters = label->font();
   letters.setPixelSize(static_cast<int>(std::lround(lettering.Points * 20 / 15)));

@@ -11,7 +11,7 @@ namespace forms {
 
 namespace {
 
-/// The windows were laid out for small indicators and tight spacing.
+/// The windows are laid out for small indicators and tight spacing.
 class CompactStyle final : public QProxyStyle {
  public:
   CompactStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -49,11 +49,11 @@ QFont defaultFont() {
 Desktop::Desktop(char* programName)
     : arguments_{programName, nullptr}, application_(count_, arguments_) {
   QCoreApplication::setApplicationName(sys::shown(sys::App.Title));
-  // The program ends with its main window, also where others are hidden.
+  // The program ends with its main window, not when no window is visible.
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new CompactStyle);
   QApplication::setFont(defaultFont());
-  // Qt refuses images above a size that a large picture exceeds; the only ones read are our own.
+  // Large pictures exceed Qt's limit, and only images written by this program are read.
   QImageReader::setAllocationLimit(0);
 }
 

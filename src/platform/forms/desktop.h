@@ -4,7 +4,7 @@
 
 namespace forms {
 
-/// The program's application object: the look of its windows, which live no longer than it does.
+/// The application object, which must outlive all windows, with the style of this program.
 class Desktop {
  public:
   explicit Desktop(char* programName);

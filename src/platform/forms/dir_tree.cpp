@@ -41,7 +41,7 @@ std::string parentOf(const std::string& path) {
   return path.substr(0, std::max<std::size_t>(separator, 3));
 }
 
-/// The path with an upper-case drive and with its "." and ".." worked out.
+/// The path with an upper-case drive and without "." and "..".
 std::string withoutDots(std::string path) {
   if (path.size() < 2) return path;
   path[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(path[0])));
@@ -61,7 +61,7 @@ DirTree::DirTree(QWidget* parent, std::function<void()> change)
   setHeaderHidden(true);
   setUniformRowHeights(true);
   setIndentation(12);
-  // A long name is read by scrolling, not cut.
+  // Long names can be scrolled to instead of being cut off.
   header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   header()->setStretchLastSection(false);
   connect(this, &QTreeWidget::itemExpanded, this, &DirTree::fill);
@@ -85,7 +85,8 @@ void DirTree::setPath(const std::string& path) {
   if (pathOf(currentItem()) != before) change_();
 }
 
-/// Reads anew down to an existing directory: directories come and go while the dialog is hidden.
+/// Reads the tree again down to an existing directory, since directories may have changed while the
+/// dialog was hidden.
 void DirTree::highlight(const std::string& directory) {
   const QSignalBlocker quiet(this);
   clear();
@@ -104,12 +105,12 @@ void DirTree::highlight(const std::string& directory) {
 }
 
 void DirTree::keyPressEvent(QKeyEvent* event) {
-  // Opening everything below would never end where a link leads back.
+  // Expanding everything would never end if a link leads back up.
   if (event->key() != Qt::Key_Asterisk) QTreeWidget::keyPressEvent(event);
 }
 
-/// Sideways, Qt would show the middle of the widest name. The beginning of this one is what counts,
-/// with the directory that it stands in where there is room for both.
+/// Qt would scroll sideways to the middle of the widest name. Show the beginning of this name, and
+/// of its parent if both fit.
 void DirTree::scrollTo(const QModelIndex& index, ScrollHint hint) {
   QScrollBar* bar = horizontalScrollBar();
   const int sideways = bar->value();
@@ -149,7 +150,7 @@ QTreeWidgetItem* DirTree::child(QTreeWidgetItem* item, const std::string& name) 
   for (int i = 0; i < item->childCount(); ++i) {
     if (sys::bytesOf(item->child(i)->text(0)) == name) return item->child(i);
   }
-  // A hidden directory, or one that was made since: shown because it was asked for.
+  // A hidden or new directory: shown because it was requested.
   auto* made = makeItem(name);
   item->addChild(made);
   return made;

@@ -7,18 +7,17 @@
 
 namespace forms {
 
-/// The directories of one drive as a tree. One click or an arrow key chooses, and what is
-/// highlighted is `Path`. Each level is read whenever it is opened.
+/// The directories of one drive as a tree. A click or an arrow key chooses; the highlighted
+/// directory is `Path`. Each level is read whenever it is expanded.
 class DirTree final : public QTreeWidget {
  public:
-  /// `change` comes when another directory is highlighted, by the user or by code.
+  /// `change` is called when another directory is highlighted, by the user or by code.
   explicit DirTree(QWidget* parent, std::function<void()> change = {});
 
-  /// The highlighted directory or, where it has gone meanwhile, the nearest one above it; in drive
-  /// form.
+  /// The highlighted directory in drive form or, if it no longer exists, the nearest one above it.
   std::string Path() const;
-  /// A path that names no directory stands for the nearest one above it; one whose drive isn't
-  /// there changes nothing.
+  /// If the path isn't a directory, the nearest one above it is used. A path on a missing drive
+  /// changes nothing.
   void setPath(const std::string& path);
 
   void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;

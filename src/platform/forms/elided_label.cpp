@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kLayout = Qt::AlignLeft | Qt::AlignTop | Qt::TextWrapAnywhere;
 
-/// The text without its middle, `length` characters of it in all.
+/// The text without its middle, keeping `length` characters in all.
 QString withoutMiddle(const QString& text, qsizetype length) {
   return text.left(length - length / 2) + QChar(0x2026) + text.right(length / 2);
 }
@@ -41,7 +41,7 @@ bool ElidedLabel::fits(const QString& text) const {
   return fontMetrics().boundingRect(room(), kLayout, text).height() <= room().height();
 }
 
-/// The text, or as much of its beginning and end as there is room for.
+/// The text, or as much of its beginning and end as fits.
 QString ElidedLabel::fitting() const {
   if (fits(text())) return text();
   qsizetype most = 0;

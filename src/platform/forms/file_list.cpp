@@ -12,7 +12,7 @@ namespace forms {
 
 namespace {
 
-/// Without regard to case, where that tells names apart.
+/// Ignores case unless names differ in nothing else.
 bool comesBefore(const std::string& a, const std::string& b) {
   const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
   const auto [atA, atB] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
@@ -53,7 +53,7 @@ void FileList::reload() {
 std::vector<std::string> FileList::selectedNames() const {
   const QStringList all = texts();
   std::vector<bool> isSelected(static_cast<std::size_t>(all.size()));
-  // Read range by range: asked row by row, a scattered selection takes seconds.
+  // Read by range: asking row by row takes seconds for a scattered selection.
   for (const QItemSelectionRange& range : selectionModel()->selection()) {
     for (int row = range.top(); row <= range.bottom(); ++row) {
       isSelected[static_cast<std::size_t>(row)] = true;

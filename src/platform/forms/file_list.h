@@ -13,10 +13,10 @@ class FileList final : public GestureList {
   FileList(QWidget* parent, std::string pattern, SelectionMode mode,
            std::function<void()> click = {}, std::function<void()> dblClick = {});
 
-  /// In drive form, also where it was set to a native path. A path that names no directory keeps
-  /// its text and lists nothing.
+  /// In drive form, even if it was set to a native path. A path that isn't a directory is kept, and
+  /// the list is empty.
   const std::string& Path() const { return path_; }
-  /// Reads the directory and selects nothing.
+  /// Reads the directory and clears the selection.
   void setPath(const std::string& path);
   void setPattern(const std::string& pattern);
 

@@ -26,14 +26,14 @@ Qt::WindowFlags flagsOf(const FormLook& look) {
                                : look.MinButton                  ? Qt::Window
                                                                  : Qt::Dialog;
   Qt::WindowFlags flags = kind | Qt::CustomizeWindowHint;
-  // Without a text and a button there is no title bar.
+  // A window without caption and close box has no title bar.
   if (*look.Caption || look.ControlBox) flags |= Qt::WindowTitleHint;
   if (look.ControlBox) flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
   if (look.MinButton) flags |= Qt::WindowMinimizeButtonHint;
   return flags;
 }
 
-/// In every size in which it is built into the program.
+/// In every size that is built into the program.
 QIcon programIcon() {
   QIcon icon;
   const QDir pictures(QStringLiteral(":/icon"));
@@ -47,7 +47,7 @@ Form::Form(const FormLook& look) : QDialog(nullptr, flagsOf(look)), look_(look) 
   setObjectName(QString::fromUtf8(look.Name));
   setCaption(look.Caption);
   if (look.Icon) setWindowIcon(programIcon());
-  // A tool window comes up beside the window that is in use and leaves it in use.
+  // Showing a tool window doesn't take the focus from the window in use.
   setAttribute(Qt::WA_ShowWithoutActivating, isTool());
 
   const QSize client(pixels(look.Client.width()), pixels(look.Client.height()));
@@ -74,7 +74,7 @@ void Form::load() {
   const bool hasDefault =
       std::any_of(buttons.begin(), buttons.end(),
                   [](const QPushButton* button) { return button->isDefault(); });
-  // Without a default button Qt would make one of the first that it finds.
+  // Without a default button, Qt would use the first auto-default one.
   for (QPushButton* button : buttons) button->setAutoDefault(hasDefault);
   Form_Load();
 }
@@ -98,13 +98,13 @@ void Form::setVisible(bool visible) {
     place();
     if (!isVisible()) showFocus();
     if (isTool()) setWindowState(windowState() & ~Qt::WindowMinimized);
-    // A tool window comes up to date, but the window in use stays the active one.
+    // A tool window is updated when shown, but the window in use stays active.
     if (!isTool() || !active_) active_ = this;
     QDialog::setVisible(true);
     if (!isTool()) activateWindow();
     Form_Activate();
   } else if (isVisible()) {
-    // Given a place of its own, a window that comes back isn't placed anew by the desktop.
+    // An explicit position keeps the desktop from placing the window anew when it is shown again.
     windowHandle()->setGeometry(geometry());
     QDialog::setVisible(false);
     leave();
@@ -112,7 +112,7 @@ void Form::setVisible(bool visible) {
 }
 
 void Form::showModal(Form* owner) {
-  // Qt can make only a window modal that comes up anew.
+  // Qt can't make a visible window modal.
   hide();
   owner_ = owner == this ? nullptr : owner;
   exec();
@@ -120,7 +120,7 @@ void Form::showModal(Form* owner) {
 
 void Form::place() {
   const Form* owner = owner_ && owner_->isVisible() ? owner_.data() : nullptr;
-  // Shown by itself, a dialog stays out of the task bar as a tool window does.
+  // A dialog without owner stays out of the task bar, like a tool window.
   if (!owner && !wasPlaced_ && !look_.MinButton) setWindowFlag(Qt::Tool);
   layout()->activate();
   winId();
@@ -140,40 +140,39 @@ void Form::place() {
   wasPlaced_ = true;
 }
 
-/// A window that is opened by the keyboard shows where the focus is.
+/// Shows the focus from the start in windows opened by the keyboard.
 void Form::showFocus() {
   const QWidget* before = QApplication::activeWindow();
   setAttribute(Qt::WA_KeyboardFocusChange,
                before && before->testAttribute(Qt::WA_KeyboardFocusChange));
 }
 
-/// Whether another window is open modally.
+/// Whether another modal window blocks this one.
 bool Form::isBlocked() const {
   const QWidget* modal = QApplication::activeModalWidget();
   return modal && modal != this;
 }
 
 void Form::activated() {
-  // A desktop may hand the focus to a blocked window, and still report one that has been hidden
-  // meanwhile; that activates nothing.
+  // Desktops may focus a blocked window or report one that has been hidden since; ignore that.
   if (active_ == this || !isVisible() || isBlocked()) return;
   active_ = this;
   Form_Activate();
 }
 
 void Form::leave() {
-  // Shown again, it starts at its first control; among buttons alone Qt starts at the default one.
+  // When shown again, the focus starts at the first control or, among buttons only, at the default.
   if (QWidget* focus = focusWidget()) focus->clearFocus();
   if (active_ == this) {
     active_ = successor();
     if (active_) active_->Form_Activate();
   }
   owner_ = nullptr;
-  // Left to itself, a desktop may give the focus to no window at all.
+  // Some desktops would leave no window focused.
   if (isModal() && active_ && active_->isVisible()) active_->activateWindow();
 }
 
-/// The form that is active after this one has gone.
+/// The form that becomes active when this one goes.
 Form* Form::successor() const {
   if (auto* modal = dynamic_cast<Form*>(QApplication::activeModalWidget())) return modal;
   if (owner_ && owner_->isVisible()) return owner_;
@@ -200,7 +199,7 @@ bool Form::event(QEvent* event) {
   return QDialog::event(event);
 }
 
-/// A hidden window takes no input that was meant for it before, such as the second half of a double
+/// Discards input that was queued before the window was hidden, such as the second half of a double
 /// click on its button.
 bool Form::eventFilter(QObject* watched, QEvent* event) {
   const bool isInput =

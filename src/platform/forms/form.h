@@ -17,48 +17,47 @@ namespace forms {
 enum class Border { Fixed, FixedTool, SizableTool };
 enum class StartUpPosition { System, CentreScreen, CentreOwner, Manual };
 
-/// What never changes about a window.
+/// The fixed properties of a window.
 struct FormLook {
   const char* Name;
   const char* Caption;
   QSize Client;  ///< twips
   Border BorderStyle = Border::Fixed;
   StartUpPosition Position = StartUpPosition::System;
-  bool ControlBox = true;  ///< has a close box; without one, Alt+F4 is refused too
+  bool ControlBox = true;  ///< has a close box; without one, Alt+F4 is refused as well
   bool MinButton = false;
-  bool Icon = false;  ///< carries the program's icon
+  bool Icon = false;  ///< has the program's icon
   /// Of the client area on the screen, in twips, for `StartUpPosition::Manual`.
   QPoint At = {};
 };
 
-/// A window: a dialog of Qt's with the life that forms have. It is loaded once, by its `Global` at
-/// first use, and may then be shown and hidden any number of times, by Qt's own functions. Unloaded
-/// it is deleted when the event loop is back, so that a handler may unload the form that it belongs
-/// to; the next use makes it anew.
+/// A window: a Qt dialog with the life cycle of a form. Its `Global` loads it at first use; after
+/// that Qt's own functions show and hide it any number of times. An unloaded form is deleted by the
+/// event loop, so a handler may unload its own form; the next use creates a new one.
 class Form : public QDialog, public Container {
  public:
   explicit Form(const FormLook& look);
   ~Form() override;
 
-  /// The loaded forms, in the order in which they were loaded.
+  /// The loaded forms in loading order.
   static const std::vector<Form*>& loaded() { return loaded_; }
-  /// The window of this program that was active last; null before the first one. Message boxes and
-  /// windows of other programs don't count.
+  /// The form that was active last; null before the first one. Message boxes and windows of other
+  /// programs don't count.
   static Form* active() { return active_; }
 
-  /// Raises `Form_Load`. Only `Global` calls it.
+  /// Calls `Form_Load`. Used by `Global` only.
   void load();
-  /// Raises `Form_Unload`, hides the form and ends it. The program ends with its last form.
+  /// Calls `Form_Unload`, then hides and deletes the form. The program ends with its last form.
   void Unload();
   bool isLoaded() const { return isLoaded_; }
 
   void setVisible(bool visible) override;
-  /// Blocks the other windows and returns when this one has been hidden or unloaded. A hidden owner
-  /// only affects placement.
+  /// Blocks the other windows until this one is hidden or unloaded. A hidden owner only affects
+  /// placement.
   void showModal(Form* owner = active());
-  /// Like `setWindowTitle`, but "[*]" stands for itself and not for a mark of changes.
+  /// Like `setWindowTitle`, but "[*]" isn't a placeholder.
   void setCaption(const std::string& caption);
-  /// The hourglass; see `Hourglass`.
+  /// See `Hourglass`.
   void beginWait();
   void endWait();
   /// The window without its menu bar.
@@ -67,9 +66,9 @@ class Form : public QDialog, public Container {
  protected:
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
-  /// Comes at every `show`, and when the activation moves here from another window of this program.
+  /// Called by every `show`, and when another form hands the activation to this one.
   virtual void Form_Activate() {}
-  /// Comes at each change of size, and when the window is minimised and restored.
+  /// Called when the size changes and when the window is minimised or restored.
   virtual void Form_Resize() {}
 
   QMenu* menu(const char* name, const char* caption);
@@ -83,9 +82,9 @@ class Form : public QDialog, public Container {
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  /// Qt would place the window here; see `place`.
+  /// Qt would place the window here; `place` does that instead.
   void showEvent(QShowEvent*) override {}
-  /// Escape.
+  /// Called for Escape.
   void reject() override;
 
  private:
@@ -105,11 +104,11 @@ class Form : public QDialog, public Container {
   QPointer<Form> owner_;  ///< while it is shown modally
   bool isLoaded_ = false;
   bool wasPlaced_ = false;
-  int waits_ = 0;  ///< hourglasses that stand
+  int waits_ = 0;  ///< number of hourglasses
   bool isWaitEnding_ = false;
 };
 
-/// The one instance of a form class, reached by the form's name: `frmConvert->hide()`.
+/// The only instance of a form class: `frmConvert->hide()`.
 template <class F>
 class Global {
  public:

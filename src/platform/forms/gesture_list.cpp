@@ -33,7 +33,7 @@ QString GestureList::chosenText() const {
 }
 
 void GestureList::mousePressEvent(QMouseEvent* event) {
-  // The other buttons select nothing.
+  // Other buttons don't select.
   if (event->button() != Qt::LeftButton) return;
   gesture_ = indexAt(event->position().toPoint()).isValid() ? Gesture::OnRow : Gesture::OffRows;
   QListView::mousePressEvent(event);
@@ -49,8 +49,8 @@ void GestureList::mouseDoubleClickEvent(QMouseEvent* event) {
 void GestureList::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QListView::mouseReleaseEvent(event);
-  // The handlers may open windows, so they run when the gesture is over. A click on a row counts
-  // even where it changes nothing, and so does one that means no row.
+  // Handlers may open windows, so they run after the gesture. A click on a row counts even if it
+  // changes nothing, and so does one that clears the selection.
   const Gesture gesture = std::exchange(gesture_, Gesture::None);
   if (gesture == Gesture::DoubleClick) return dblClick_();
   const bool meansNone = gesture == Gesture::OffRows && selectionMode() == ExtendedSelection;
@@ -62,7 +62,7 @@ void GestureList::keyPressEvent(QKeyEvent* event) {
   const bool steps = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
   const bool isFirst = !selectionModel()->hasSelection() && currentIndex().isValid();
   if (steps && isFirst && event->modifiers() == Qt::NoModifier) {
-    // It leads to the row that the focus came to, not to the one behind.
+    // The first arrow key selects the current row instead of skipping it.
     selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
   } else {
     QListView::keyPressEvent(event);

@@ -7,9 +7,9 @@
 
 namespace forms {
 
-/// A list of texts that tells gestures apart: a drag over a hundred rows or Ctrl+A is one Click, a
-/// double click raises DblClick after its Click, and a key that changes nothing or a change by code
-/// raises nothing.
+/// A list of texts that reports each gesture once: dragging over a hundred rows or pressing Ctrl+A
+/// is one Click, and a double click is a Click and a DblClick. Keys that change nothing and changes
+/// by code aren't reported.
 class GestureList : public QListView {
  public:
   GestureList(QWidget* parent, SelectionMode mode, std::function<void()> click,
@@ -17,8 +17,8 @@ class GestureList : public QListView {
 
   void setTexts(const QStringList& texts) { texts_.setStringList(texts); }
   QStringList texts() const { return texts_.stringList(); }
-  /// The text of the current row or, where the user has just taken that out of the selection, of
-  /// the first one that is selected; empty when there is none.
+  /// The text of the current row or, if that has just been deselected, of the row still selected;
+  /// empty if nothing is selected.
   QString chosenText() const;
 
  protected:
@@ -34,7 +34,7 @@ class GestureList : public QListView {
   std::function<void()> click_;
   std::function<void()> dblClick_;
   Gesture gesture_ = Gesture::None;
-  bool isChanged_ = false;  ///< the selection or the current row, since a key was pressed
+  bool isChanged_ = false;  ///< whether a key changed the selection or the current row
 };
 
 }  // namespace forms

@@ -4,8 +4,8 @@ namespace forms {
 
 class Form;
 
-/// Shows the hourglass on the active form as long as it lives. It goes when the event loop is back,
-/// so that a long run of short operations doesn't flicker.
+/// Shows the wait cursor on the active form while it exists. The cursor is reset by the event loop,
+/// so that a series of short operations doesn't flicker.
 class Hourglass {
  public:
   Hourglass();

@@ -16,8 +16,8 @@ namespace {
 static_assert(int{QMessageBox::Critical} == static_cast<int>(Icon::Critical));
 static_assert((QMessageBox::Yes | QMessageBox::No).toInt() == static_cast<int>(Buttons::YesNo));
 
-/// A path has no place to break, and a box doesn't grow beyond some width: there the middle of a
-/// longer one is left out, and the details have the whole.
+/// Qt can't wrap paths and limits the width of the box. The middle of a longer path is left out;
+/// the details then show all of it.
 void fitPaths(QMessageBox& box) {
   constexpr int kMargins = 120;
   const int screen = box.screen()->availableSize().width();

@@ -17,8 +17,8 @@ struct Message {
   Icon icon = Icon::None;
 };
 
-/// Shows the message over the active form and waits for the button. Escape and the close box answer
-/// what does least: OK, Cancel or No.
+/// Shows the message over the active form and waits for the answer. Escape and the close box mean
+/// the most harmless one: OK, Cancel or No.
 Answer MsgBox(const Message& message);
 
 }  // namespace forms

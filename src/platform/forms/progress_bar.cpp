@@ -8,9 +8,9 @@ namespace forms {
 
 namespace {
 
-constexpr std::int64_t kPaintGap = 33'000'000;  // nanoseconds, 30 paintings a second
+constexpr std::int64_t kPaintGap = 33'000'000;  // nanoseconds, for 30 repaints a second
 
-/// A clock that is read in a few nanoseconds and ticks every few milliseconds.
+/// A clock that takes nanoseconds to read and ticks every few milliseconds.
 std::int64_t coarseNow() {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
@@ -34,7 +34,7 @@ void ProgressBar::follow() {
 }
 
 void ProgressBar::paintNow() {
-  QProgressBar::setValue(value_);  // paints at once where the bar is visible
+  QProgressBar::setValue(value_);  // repaints at once if the bar is visible
   lastPaint_ = coarseNow();
 }
 

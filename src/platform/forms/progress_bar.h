@@ -8,9 +8,9 @@
 
 namespace forms {
 
-/// A bar from 0 to 100. `Value` is exact after every store; the screen follows at most about 30
-/// times a second, painted at once because a long run doesn't come back to the event loop, and a
-/// last time when it does.
+/// A bar from 0 to 100. `Value` is always exact; the screen is updated at most about 30 times a
+/// second. A long run never returns to the event loop, so the bar repaints at once, and once more
+/// when the loop resumes.
 class ProgressBar final : public QProgressBar {
  public:
   explicit ProgressBar(QWidget* parent);

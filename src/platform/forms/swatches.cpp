@@ -38,7 +38,7 @@ class SwatchDelegate final : public QStyledItemDelegate {
                                        : option.palette.color(QPalette::Window));
     painter->drawRect(option.rect);
     if (index != view_->currentIndex() || !(marksAlways_ || view_->hasFocus())) return;
-    // Whatever the colour, one of the two is plain to see on it.
+    // One of the two is visible on any colour.
     painter->setBrush(Qt::NoBrush);
     painter->setPen(Qt::white);
     painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
@@ -53,7 +53,7 @@ class SwatchDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-/// The colours by row and column; without any until they have been set.
+/// The colours by row and column; empty until they are set.
 class SwatchModel final : public QAbstractTableModel {
  public:
   using QAbstractTableModel::QAbstractTableModel;
@@ -121,7 +121,7 @@ void Swatches::choose() {
   if (choose_) choose_(kSide * currentIndex().row() + currentIndex().column());
 }
 
-/// The last line belongs to no swatch.
+/// The closing line at the right and bottom belongs to no swatch.
 void Swatches::resizeEvent(QResizeEvent* event) {
   horizontalHeader()->setDefaultSectionSize((width() - 1) / kSide);
   verticalHeader()->setDefaultSectionSize((height() - 1) / kSide);

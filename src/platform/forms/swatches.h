@@ -10,17 +10,17 @@ namespace forms {
 
 class SwatchModel;
 
-/// A palette as 16 × 16 swatches, row by row, that neighbours share the lines between. The arrow
-/// keys move, a click, Enter or Space chooses; a tool tip tells of each swatch.
+/// A palette as 16 × 16 swatches, row by row; neighbours share a line. Arrow keys move, a click,
+/// Enter or Space chooses, and a tool tip describes each swatch.
 class Swatches final : public QTableView {
  public:
-  /// Without `choose` there is nothing to choose, and the current swatch is marked only while the
-  /// view has the focus.
+  /// Without `choose` the palette is for display only, and the current swatch is marked only while
+  /// the view has the focus.
   explicit Swatches(QWidget* parent, std::function<void(int index)> choose = {});
 
-  /// All colours together cost one repaint, and none where nothing changes.
+  /// Repaints once for all colours, and not at all if nothing changes.
   void setColours(const mill::ColourTable& colours);
-  /// Makes a swatch the current one; it chooses nothing.
+  /// Makes a swatch the current one without choosing it.
   void setCurrent(int index);
 
  protected:

@@ -4,10 +4,10 @@
 
 namespace sys {
 
-/// What the program knows of itself.
+/// Facts about the program itself.
 struct Application {
   static constexpr const char* Title = "RasterMill";
-  /// Major, minor and revision, parted by dots.
+  /// "major.minor.revision".
   static constexpr const char* Version = MILL_VERSION;
 
   /// The directory of the program's own file, in drive form.
@@ -16,8 +16,8 @@ struct Application {
 
 inline constexpr Application App;
 
-/// Starts the desktop's own viewer on a file, whether or not the file exists, and doesn't wait for
-/// it. False where the viewer can't be started.
+/// Opens a file in the desktop's viewer without waiting for it. False if the viewer can't be
+/// started; whether the file exists isn't checked.
 [[nodiscard]] bool openWithViewer(const std::string& path);
 
 }  // namespace sys

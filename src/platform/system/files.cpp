@@ -20,7 +20,7 @@ bool isHidden(std::string_view name) {
   return name.starts_with('.');
 }
 
-/// A name that holds a backslash can't be written as a path in drive form.
+/// A name with a backslash can't be expressed in drive form.
 bool canBeNamed(const std::string& name) {
   return name.find('\\') == std::string::npos;
 }
@@ -38,8 +38,8 @@ bool matches(std::string_view name, std::string_view pattern) {
          matches(name.substr(1), pattern.substr(1));
 }
 
-/// Calls `visit` with each entry of a directory until it gives false; a directory that can't be
-/// read has none.
+/// Calls `visit` with each entry of a directory until it returns false. An unreadable directory has
+/// no entries.
 template <class Visit>
 void eachEntry(const std::string& directory, Visit visit) {
   const fs::path native = nativePath(directory);
@@ -126,7 +126,7 @@ std::vector<std::string> directoriesIn(const std::string& directory) {
 InputFile::InputFile(const std::string& path) {
   const fs::path native = nativePath(path);
   if (native.empty()) return;
-  // Not blocking, because a pipe without a writer would hold the program; only regular files stay.
+  // Non-blocking, since a pipe without a writer would hang the program; only regular files pass.
   handle_ = ::open(native.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   struct stat status {};
   if (handle_ >= 0 && (::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode))) {
@@ -163,10 +163,10 @@ OutputFile::~OutputFile() {
 bool OutputFile::open() {
   handle_ = ::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
   if (handle_ >= 0 || errno != EEXIST) return handle_ >= 0;
-  // Looked at before it is opened, since opening a device can have effects of its own.
+  // Checked before opening, since opening a device can have side effects.
   struct stat status {};
   if (::stat(path_.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return false;
-  // Readable too, since reserving space has to read where the file system doesn't help.
+  // Readable too: without support by the file system, reserving space has to read.
   handle_ = ::open(path_.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (handle_ < 0) return false;
   if (::fstat(handle_, &status) != 0 || !S_ISREG(status.st_mode)) {
@@ -179,7 +179,7 @@ bool OutputFile::open() {
 }
 
 bool OutputFile::reserve(std::int64_t size) {
-  // A new file has nothing to lose: it fails as it is written, and is removed.
+  // A new file has nothing to lose: if writing fails, it is removed.
   if (oldSize_ < 0 || size <= 0) return true;
   return ::posix_fallocate(handle_, 0, size) == 0;
 }
@@ -198,7 +198,7 @@ bool OutputFile::close() {
   const int handle = std::exchange(handle_, -1);
   if (::close(handle) == 0) return true;
   const int undone = oldSize_ < 0 ? ::unlink(path_.c_str()) : ::truncate(path_.c_str(), oldSize_);
-  static_cast<void>(undone);  // the failure itself is what the user hears of
+  static_cast<void>(undone);  // the user hears of the original failure
   return false;
 }
 
@@ -206,7 +206,7 @@ void OutputFile::abandon() {
   if (oldSize_ < 0) {
     ::unlink(path_.c_str());
   } else if (::ftruncate(handle_, oldSize_) != 0) {
-    // The length stays as the failed write left it; the failure itself is what the user hears of.
+    // The length stays as the failed write left it; the user hears of the original failure.
   }
   ::close(std::exchange(handle_, -1));
 }

@@ -11,26 +11,26 @@ namespace sys {
 
 bool isNormalFile(const std::string& path);
 bool isDirectory(const std::string& path);
-/// Whether there is anything under that name.
+/// Whether anything exists under that name.
 bool exists(const std::string& path);
-/// True where both paths lead to the same file or directory, by whatever name or link.
+/// Whether both paths lead to the same file or directory, by any name or link.
 bool isSame(const std::string& path, const std::string& other);
 
-/// Makes one directory in one that is there. False where that fails.
+/// Creates one directory in an existing one. False on failure.
 bool makeDirectory(const std::string& path);
 
-/// The names of the normal files in a directory that match a pattern of `*` and `?`, without regard
-/// to case, in the order of the file system; none where the directory can't be read.
+/// The names of the normal files in a directory that match a pattern of `*` and `?`, ignoring case,
+/// in file system order. Empty if the directory can't be read.
 std::vector<std::string> filesIn(const std::string& directory, const std::string& pattern);
-/// Whether `filesIn` with "*.*" would give any.
+/// Whether `filesIn` with "*.*" would return any.
 bool hasFiles(const std::string& directory);
 /// The names of the sub-directories that aren't hidden.
 std::vector<std::string> directoriesIn(const std::string& directory);
 
-/// A regular file that is read from its start.
+/// A regular file, read from its start.
 class InputFile {
  public:
-  /// Look at `isOpen` before anything else.
+  /// Check `isOpen` before anything else.
   explicit InputFile(const std::string& path);
   ~InputFile();
   InputFile(const InputFile&) = delete;
@@ -38,7 +38,7 @@ class InputFile {
 
   bool isOpen() const { return handle_ >= 0; }
   std::int64_t size() const { return size_; }
-  /// Fills all of `bytes`; false where the file ends before or can't be read.
+  /// Fills `bytes`; false if the file is too short or can't be read.
   bool read(std::span<std::uint8_t> bytes);
 
  private:
@@ -46,13 +46,13 @@ class InputFile {
   std::int64_t size_ = 0;
 };
 
-/// A regular file that is written from its first byte. One that exists is written over and keeps
-/// its tail; only regular files are ever written. Until `close` has said true the output counts as
-/// failed: a file that was made for it is then removed, and one that was there keeps its length.
+/// A regular file, written from its first byte. An existing file is overwritten and keeps its tail;
+/// anything but a regular file is refused. Unless `close` returns true the output has failed: a new
+/// file is then removed, and an existing one gets its old length back.
 class OutputFile {
  public:
-  /// Opens or makes the file, with space for `size` bytes, so that a full disk shows before the
-  /// first byte of an older file is lost. Look at `isOpen` before anything else.
+  /// Opens or creates the file and reserves `size` bytes, so that a full disk is noticed before an
+  /// older file is overwritten. Check `isOpen` before anything else.
   OutputFile(const std::string& path, std::int64_t size);
   ~OutputFile();
   OutputFile(const OutputFile&) = delete;
@@ -69,7 +69,7 @@ class OutputFile {
 
   std::string path_;
   int handle_ = -1;
-  std::int64_t oldSize_ = -1;  ///< of a file that was there before, else -1
+  std::int64_t oldSize_ = -1;  ///< of an existing file, else -1
 };
 
 }  // namespace sys

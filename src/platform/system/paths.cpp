@@ -12,7 +12,7 @@ bool hasDrive(std::string_view path) {
   return path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0]));
 }
 
-/// The directory with one link for each drive of the Wine prefix.
+/// The directory that has a link for each drive of the Wine prefix.
 std::string wineDrives() {
   if (const char* prefix = std::getenv("WINEPREFIX"); prefix && *prefix) {
     return std::string(prefix) + "/dosdevices";
@@ -21,7 +21,7 @@ std::string wineDrives() {
   return std::string(home ? home : "") + "/.wine/dosdevices";
 }
 
-/// The native directory that a drive stands for. Where there is no such drive, that doesn't exist.
+/// The native directory of a drive. It doesn't exist if there is no such drive.
 std::string driveRoot(char letter) {
   const char lower = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
   return lower == 'z' ? "/" : wineDrives() + "/" + lower + ":/";

@@ -7,16 +7,16 @@
 
 namespace sys {
 
-/// Paths are written with a drive and backslashes, and mean files of this system: `Z:` is the root
-/// of its file system, and the other letters are the drives of the user's Wine prefix
-/// (`$WINEPREFIX`, else `~/.wine`). A native absolute path means itself. Names are bytes.
+/// Paths are written with drives and backslashes: `Z:` is the root of the file system, and the
+/// other letters are the drives of the user's Wine prefix (`$WINEPREFIX`, else `~/.wine`). Native
+/// absolute paths are accepted as well. Names are bytes.
 
-/// The native path that `path` means, whether or not it exists; empty for a path that has neither a
-/// drive nor a leading slash. Asks nothing of the file system.
+/// The native path for `path`, whether or not it exists; empty if it has neither a drive nor a
+/// leading slash. Doesn't access the file system.
 std::filesystem::path nativePath(std::string_view path);
 
-/// An absolute native path in drive form, on `Z:`. A path with a drive gets its backslashes; one
-/// that means nothing stays as it is.
+/// Converts an absolute native path to drive form, on `Z:`. A path with a drive gets backslashes;
+/// any other text is returned unchanged.
 std::string drivePath(std::string_view path);
 
 /// The letters of all drives with their colons, in alphabetical order.
@@ -25,7 +25,7 @@ std::vector<std::string> drives();
 /// `directory`, a backslash and `name`.
 std::string join(std::string_view directory, std::string_view name);
 
-/// What follows the last backslash of `path`.
+/// The part after the last backslash of `path`.
 std::string_view fileNameOf(std::string_view path);
 
 }  // namespace sys

@@ -16,14 +16,14 @@ std::string variable(const char* name) {
   return value ? value : "";
 }
 
-/// In a directory where others can write, a file of a known name could be theirs.
+/// If others can write to a directory, they could plant a file under a known name.
 bool isPrivate(const std::filesystem::path& directory) {
   struct stat status {};
   return ::stat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
          status.st_uid == ::getuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-/// A directory that is new to everybody, for the rest of the run.
+/// A new directory with a random name, used until the program ends.
 std::string freshDirectory() {
   static const std::string fresh = [] {
     std::error_code error;

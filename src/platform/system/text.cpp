@@ -14,7 +14,7 @@ bool isEscaped(const QString& text, qsizetype at) {
   return at == 0 || !text[at - 1].isHighSurrogate();
 }
 
-/// How many bytes a UTF-8 sequence has that begins with `lead`.
+/// The length of a UTF-8 sequence that begins with `lead`, in bytes.
 std::size_t sequenceLength(unsigned char lead) {
   return lead < 0xC0 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
 }

@@ -7,9 +7,9 @@
 
 namespace sys {
 
-/// Texts are bytes, since file names are. On the screen they are shown as UTF-8; a byte that isn't
-/// part of valid UTF-8 becomes one lone surrogate (U+DC80 to U+DCFF), so that every text comes back
-/// from a control as it went in.
+/// The program's texts are bytes, since file names are. Controls show them as UTF-8; a byte that is
+/// not part of valid UTF-8 becomes a lone surrogate (U+DC80 to U+DCFF), so that every text survives
+/// the round trip through a control.
 QString shown(std::string_view bytes);
 std::string bytesOf(const QString& text);
 
