@@ -61,7 +61,7 @@ expect_preview() {
   wait_until "the preview on the screen" shows_bitmap
 }
 shows_bitmap() {
-  cmp -s <(import -silent -window "$preview" -depth 8 ppm:-) <(pixels_in "$temp/temp.bmp")
+  cmp -s <(timeout 10 import -window "$preview" -depth 8 ppm:-) <(pixels_in "$temp/temp.bmp")
 }
 
 # pixels_in FILE prints a bitmap as a portable pixmap. The reader knows nothing of this program.
