@@ -10,7 +10,8 @@ source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 declare -A place=(
   [Source]="1800 510" [Destination]="6000 510" [Palette]="5600 2310"
   [browse Source]="3540 120" [browse Destination]="7980 120" [browse Palette]="7620 1920"
-  [default]="5600 3030" [browse default]="7620 2640" [Preview]="780 4440" [Batch]="3720 4440"
+  [default]="5600 3030" [browse default]="7620 2640" [Show Preview window]="3840 1085"
+  [Preview]="780 4440" [Batch]="3720 4440"
   [swatch 108]="3120 1680" [red]="1000 4222" [Set New]="4690 3660"
   [Extract]="4690 1260" [Save Palette]="4690 2220" [Use]="4690 307" [file name]="2400 3150"
   [list]="3060 230" [extract to]="1500 1300" [Load]="4260 270" [Save]="4260 1080" [Done]="4260 1485"
@@ -105,6 +106,26 @@ select_file Seahorse.bmp
 click Preview
 expect_preview 52.pal
 screenshot preview "$preview"
+
+# Hidden by its check box and along with the main window, and fitted to other pictures in between,
+# the preview comes back to its place.
+preview_place() { xdotool getwindowgeometry "$preview" | grep Position; }
+preview_is_back() { find_window Preview && [[ $(preview_place) == "$place_before" ]]; }
+preview_is_hidden() { ! find_window Preview; }
+place_before=$(preview_place)
+for picture in {chart,Seahorse,chart,Seahorse,chart,Seahorse,chart,Seahorse,chart,Seahorse}.bmp; do
+  at "Raster Mill" click "Show Preview window"
+  wait_until "a hidden preview" preview_is_hidden
+  click "Show Preview window"
+  wait_until "the preview in its place" preview_is_back
+  select_file "$picture"
+  click Preview
+  wait_until "the preview of $picture" shows_bitmap
+  xdotool windowminimize "$window"
+  wait_until "a minimised preview" preview_is_hidden
+  xdotool windowactivate "$window"
+  wait_until "the preview in its place again" preview_is_back
+done
 at "Raster Mill" screenshot main
 
 # The first palette of the list, and one in which a colour is another.

@@ -28,7 +28,7 @@ class BitmapsTest : public WindowTest {
     hooks.startProgress = [this](std::int32_t size) { total = size; };
     hooks.incOpenProgress = [this](std::int64_t num, std::int32_t times) { read += num * times; };
     hooks.incProgress = [this](std::int64_t num, std::int32_t times) { written += num * times; };
-    state.PaletteTable = tableOf(someColours(3));
+    state.PaletteTable = someColours(3);
     state.ResizeFit = true;
     hooks.fitPreview = [](int, int) { ADD_FAILURE() << "The preview was resized."; };
     open("open.bmp", kestrel);
@@ -117,7 +117,7 @@ TEST_F(BitmapsTest, AStandardBitmapIsOpenedAfterYesAndWrittenAsItWas) {
   OpenPicture(folder.drive("in.bmp"));
   messages.expectLast(2, "The palette file can't be written.\n" + state.CurrentPaletteFile,
                       "Warning!", QMessageBox::Critical);
-  EXPECT_EQ(state.PaletteTable, tableOf(someColours(9)));
+  EXPECT_EQ(state.PaletteTable, someColours(9));
 }
 
 TEST_F(BitmapsTest, ARefusedFileGetsOneMessageAndChangesNothing) {

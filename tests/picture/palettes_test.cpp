@@ -34,15 +34,15 @@ TEST_F(Palettes, AFileWithAWholeHeadGivesItsEntries) {
     file.resize(size, 0xEE);
     folder.write(name, file);
     state.CurrentPaletteFile = folder.drive(name);
-    state.PaletteTable = tableOf(someColours(3));
+    state.PaletteTable = someColours(3);
     state.PaletteHeader = "old";
     isShown = false;
     LoadPalette();
     EXPECT_EQ(messages.texts(), texts);
     const bool isRead = entries >= 0;
     model::Colours expected = someColours(isRead ? 4 : 3);
-    if (isRead) std::fill(expected.begin() + entries, expected.end(), model::Colour{});
-    EXPECT_EQ(state.PaletteTable, tableOf(expected));
+    if (isRead) std::fill(expected.begin() + entries, expected.end(), ColourEntry{});
+    EXPECT_EQ(state.PaletteTable, expected);
     EXPECT_EQ(state.PaletteHeader, isRead ? kHead : "old");
     EXPECT_EQ(isShown, isRead);
   }
@@ -81,7 +81,7 @@ TEST_F(Palettes, APictureFindsTheFilesNamedAfterItsIndex) {
     EXPECT_EQ(found(40), folder.drive(search ? "pal/40.pal" : "base.pal"));
     // The colours that a standard bitmap brought along.
     EXPECT_EQ(found(0), folder.drive("bmp.pal"));
-    EXPECT_EQ(state.PaletteTable, tableOf(someColours(4)));
+    EXPECT_EQ(state.PaletteTable, someColours(4));
   }
   EXPECT_EQ(messages.texts(), Texts{});
 }

@@ -21,7 +21,7 @@ void put(Bytes& file, std::initializer_list<Bytes> parts) {
 }
 
 void putBlueFirst(Bytes& file, const Colours& colours) {
-  for (const Colour& c : colours) put(file, {{c.blue, c.green, c.red, c.extra}});
+  for (const auto& [red, green, blue, extra] : colours) put(file, {{blue, green, red, extra}});
 }
 
 int numberAt(const Bytes& file, std::size_t at) {
@@ -99,8 +99,8 @@ Bytes paletteList(const std::vector<ListRecord>& records) {
   Bytes file;
   put(file, {text("LIST"), number(static_cast<int>(records.size()), 4), Bytes(44, 0xA4)});
   for (ListRecord record : records) {
-    for (Colour& colour : record.colours) {
-      if (colour.extra == 255) std::swap(colour.red, colour.blue);
+    for (auto& [red, green, blue, extra] : record.colours) {
+      if (extra == 255) std::swap(red, blue);
     }
     putBlueFirst(file, record.colours);
     put(file, {number(record.index, 4), Bytes(4, 0xA5)});

@@ -1,21 +1,19 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "formats/picture_record.h"
+
 /// The file formats once more, byte by byte and as plainly as they can be put, to hold the program
-/// against. Nothing here uses the program's own code.
+/// against. Of the program, only the shape of its colour table is used.
 namespace model {
 
 using Bytes = std::vector<std::uint8_t>;
 
-struct Colour {
-  std::uint8_t red, green, blue, extra;
-};
-using Colours = std::array<Colour, 256>;
+using Colours = mill::ColourTable;
 
 /// 256 colours without a pattern in them; another `seed` gives others.
 Colours someColours(int seed);

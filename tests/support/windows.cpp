@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QListView>
+#include <QPainter>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -128,20 +129,12 @@ QImage painted(QWidget* widget) {
   return widget->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-QImage boxWith(const Bytes& bitmap, QSize box, int scale) {
-  const auto number = [&](std::size_t at) { return bitmap.at(at) | bitmap.at(at + 1) << 8; };
-  const int width = number(18), height = number(22), rowBytes = (width + 3) / 4 * 4;
+QImage boxWith(Bytes bitmap, QSize box, int scale) {
+  bitmap.resize(1 << 20);
+  const QImage picture = QImage::fromData(bitmap.data(), 1 << 20, "BMP");
   QImage image(box, QImage::Format_RGB32);
   image.fill(QApplication::palette().color(QPalette::Window));
-  for (int y = 0; y < std::min(height * scale, box.height()); ++y) {
-    for (int x = 0; x < std::min(width * scale, box.width()); ++x) {
-      // The last row is stored first, and of each colour blue. What isn't there is colour 0.
-      const auto at =
-          static_cast<std::size_t>(1078 + (height - 1 - y / scale) * rowBytes + x / scale);
-      const auto colour = 54 + std::size_t{4} * (at < bitmap.size() ? bitmap[at] : 0);
-      image.setPixel(x, y, qRgb(bitmap[colour + 2], bitmap[colour + 1], bitmap[colour]));
-    }
-  }
+  QPainter(&image).drawImage(QRect({}, picture.size() * scale), picture);
   return image;
 }
 
@@ -160,13 +153,6 @@ Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
   ::getrlimit(resource, &before_);
   const rlimit limit{value, before_.rlim_max};
   ::setrlimit(resource, &limit);
-}
-
-ColourTable tableOf(const model::Colours& colours) {
-  ColourTable table;
-  auto entry = table.begin();
-  for (const auto& [red, green, blue, extra] : colours) *entry++ = {red, green, blue, extra};
-  return table;
 }
 
 void settle() {

@@ -14,7 +14,6 @@
 #include <sys/resource.h>
 #include <vector>
 
-#include "formats/picture_record.h"
 #include "support/format_model.h"
 
 namespace mill::test {
@@ -104,8 +103,8 @@ void settle();
 
 /// What a widget shows at this moment.
 QImage painted(QWidget* widget);
-/// An empty box with a bitmap file of 256 colours at its top left, decoded pixel by pixel.
-QImage boxWith(const Bytes& bitmap, QSize box, int scale = 1);
+/// An empty box with a bitmap file, if it is one, at its top left. Bytes missing in it are 0.
+QImage boxWith(Bytes bitmap, QSize box, int scale = 1);
 /// The swatches of a form show these colours.
 void expectSwatches(const char* form, const model::Colours& colours);
 
@@ -120,9 +119,6 @@ class Limit {
   __rlimit_resource resource_;
   rlimit before_{};
 };
-
-/// The colours as the program holds them.
-ColourTable tableOf(const model::Colours& colours);
 
 /// Unloads all forms and empties the shared state before and after each test. Temporary files go
 /// to the test's own folder.
