@@ -50,9 +50,9 @@ TEST_F(BrowseDialogs, StartWhereTheSeedSaysAndTheirListsFollowEachOther) {
   const std::tuple<std::string, std::string, std::string> cases[] = {
       {"", "Z:\\", "Z:\\"},
       {b, b, a},
-      {folder.path("a/1.pal").string(), a, a},
+      {folder.path("a\\b/1.pal").string(), b, b},
       {a + "\\gone\\deeper\\x.pal", a, a},
-      {"C:\\sub\\x.pal", "C:\\sub", "C:\\sub"},
+      {"c:\\sub\\x.pal", "C:\\sub", "C:\\sub"},
       {folder.drive() + "\\\\a\\\\b\\\\x", b, b}};
   for (const char* dialog : {kBrowse, kFileBrowse, kSave}) {
     SCOPED_TRACE(dialog);
@@ -80,22 +80,18 @@ TEST_F(BrowseDialogs, EscapeAndCancelEmptyWhatTheCloseBoxLeaves) {
         {[&] { QTest::keyClick(control(dialog, "Dir1"), Qt::Key_Escape); }, true},
         {[&] { test::window(dialog)->close(); }, false}};
     for (const auto& [act, empties] : cases) {
-      state.FileResult = "old";
       use(dialog, seed, act);
       EXPECT_EQ(state.BrowseResult, empties ? "" : seed);
-      EXPECT_EQ(state.FileResult, empties && dialog != kBrowse ? "" : "old");
     }
   }
 }
 
 TEST_F(BrowseDialogs, FilesArePickedOrTypedAndNamesStayForTheNextUse) {
-  for (const char* result : {"1.pal", ""}) {  // the next use begins without a file
-    use(kFileBrowse, folder.drive("a/2.PAL"), [&] {
-      if (*result) QTest::keyClick(control(kFileBrowse, "File1"), Qt::Key_Home);
-      pressOK(kFileBrowse);
-    });
-    EXPECT_EQ(state.FileResult, result);
-  }
+  use(kFileBrowse, folder.drive("a/2.PAL"), [&] {
+    QTest::keyClick(control(kFileBrowse, "File1"), Qt::Key_Home);
+    pressOK(kFileBrowse);
+  });
+  EXPECT_EQ(state.FileResult, "1.pal");
   use(kSave, folder.drive("a/1.pal"), [] {
     pressOK(kSave);  // does nothing without a name
     QTest::keyClick(control(kSave, "File1"), Qt::Key_Home);

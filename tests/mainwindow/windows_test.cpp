@@ -1,6 +1,5 @@
 #include "support/windows.h"
 
-#include <QAction>
 #include <QTest>
 
 #include "conversion/frm_convert.h"
@@ -91,17 +90,6 @@ TEST_F(Windows, ShowEveryControlWholeAndByTheTabKey) {
     EXPECT_EQ(covered, way) << title;
     EXPECT_EQ(captions.count(odd), 1) << odd;
   }
-}
-
-TEST_F(Windows, HaveEveryCommandInAMenu) {
-  start();
-  QString found;
-  for (const auto* item : window("frmMain")->findChildren<QAction*>(QRegularExpression("^mnu"))) {
-    found += item->text() + ' ' + item->shortcut().toString() + '|';
-  }
-  EXPECT_EQ(found.toStdString(),
-            "&Preview Ctrl+O|&Convert... Ctrl+C|&Batch Convert... Ctrl+B| |&Exit |"
-            "Change &Palette... Ctrl+P|View &File Info... Ctrl+F|&Options... Ctrl+T|&About... |");
 }
 
 }  // namespace

@@ -3,6 +3,9 @@
 #include <QTableView>
 #include <QTest>
 
+#include <algorithm>
+
+#include "palette/number_text.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "support/windows.h"
@@ -45,11 +48,11 @@ class Editor : public test::WindowTest {
     return texts;
   }
   static QRgb patch(const char* name) { return test::painted(control(kForm, name)).pixel(30, 30); }
-  /// Loads or saves; cancels without a name.
+  /// Loads or saves.
   static void use(const char* button, const std::string& name) {
     test::pressAndThen(kForm, button, [&] {
       control<QLineEdit>("frmSave", "txtFilename")->setText(QString::fromStdString(name));
-      test::press("frmSave", name.empty() ? "cmdCancel" : "cmdOK");
+      test::press("frmSave", "cmdOK");
     });
   }
 
@@ -87,31 +90,41 @@ TEST_F(Editor, TypedNumbersReachTheSavedFile) {
   EXPECT_EQ(state.PaletteTable, own);
 }
 
+TEST(NumberText, IsTheNumberAtTheStartWithinItsRange) {
+  const std::string zeros(400, '0'), nines(400, '9');
+  const std::pair<int, std::vector<std::string>> cases[] = {
+      {0, {"", " ", "-", ".", "+-7", "0.5", "0x10", "inf", "-infinity", "e5", "0." + zeros + "1"}},
+      {2, {"1.5", "2.5", "2,9", "2e2", "2 34", " 2", "+2", "2.", zeros + "2"}},
+      {1000, {nines, "1001"}},
+      {-1000, {"-" + nines}}};
+  for (const auto& [number, texts] : cases) {
+    for (const std::string& text : texts) {
+      EXPECT_EQ(numberOf(text, -1000, 1000), number) << text;
+      EXPECT_EQ(numberOf(text, 0, 255), std::clamp(number, 0, 255)) << text;
+    }
+  }
+}
+
 TEST_F(Editor, OKAdoptsTheFileLoadedOrSavedLast) {
   const auto picture = model::kestrelBitmap({.width = 4, .height = 4, .dataSize = 16});
   folder.write("in.bmp", picture);
   OpenPicture(folder.drive("in.bmp"));
   state.ShowPrev = true;
-  // What is loaded or saved as, the palette that is current after OK, and the messages.
-  using Uses = std::vector<std::pair<const char*, const char*>>;
-  const std::tuple<Uses, const char*, const Colours*, test::Texts> cases[] = {
-      {{{"cmdLoad", "missing.pal"}}, "base.pal", &own, {"The palette file does not exist."}},
-      {{{"cmdLoad", "other.pal"}, {"cmdSave", "bare"}},
-       "bare",
-       &own,
-       {"The palette file does not exist."}},
-      {{{"cmdLoad", "other.pal"}, {"cmdLoad", "short.pal"}},
-       "other.pal",
-       &other,
-       {"The palette file is incomplete."}}};
-  for (const auto& [uses, file, colours, texts] : cases) {
-    SCOPED_TRACE(file);
-    for (const auto& [button, name] : uses) use(button, name);
+  const char* missing = "The palette file does not exist.";
+  // What is done after a load, the palette that is current after OK, and the message.
+  const std::tuple<const char*, const char*, const char*, const Colours*, const char*> cases[] = {
+      {"cmdSave", "bare", "bare", &own, missing},  // written as "bare.pal"
+      {"cmdLoad", "missing.pal", "other.pal", &other, missing},
+      {"cmdLoad", "short.pal", "other.pal", &other, "The palette file is incomplete."}};
+  for (const auto& [button, name, file, colours, text] : cases) {
+    SCOPED_TRACE(name);
+    use("cmdLoad", "other.pal");
+    use(button, name);
     test::press(kForm, "cmdOK");
     EXPECT_FALSE(frmColour.isLoaded());
     EXPECT_EQ(state.CurrentPaletteFile, folder.drive(file));
     EXPECT_EQ(state.PaletteTable, *colours);
-    EXPECT_EQ(messages.texts(), texts);
+    EXPECT_EQ(messages.texts(), test::Texts{text});
     test::settle();
     open();
   }

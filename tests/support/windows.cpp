@@ -12,29 +12,21 @@
 #include <csignal>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <utility>
 
 #include "mainwindow/frm_main.h"
 #include "picture/hooks.h"
 #include "picture/program_state.h"
-#include "platform/system/application.h"
 #include "platform/system/paths.h"
-#include "platform/system/settings.h"
 
 namespace mill::test {
-
-TempFolder::TempFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "mill-XXXXXX").string();
-  root_ = ::mkdtemp(pattern.data());
-}
 
 std::string TempFolder::drive(const std::string& name) const {
   return sys::drivePath(path(name).string());
 }
 
 void TempFolder::write(const std::string& name, const Bytes& bytes) const {
-  std::ofstream(root_ / name, std::ios::binary)
+  std::ofstream(path(name), std::ios::binary)
       .write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));
 }
 
@@ -50,13 +42,12 @@ bool Messages::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Messages::answer(QMessageBox& box) {
-  const QString text = box.detailedText().isEmpty() ? box.text() : box.detailedText();
-  said_.push_back({text.toStdString(), box.windowTitle().toStdString(), box.icon()});
+  said_.push_back({box.text().toStdString(), box.windowTitle().toStdString(), box.icon()});
   if (meanwhile) meanwhile();
   const bool asks = box.standardButtons().testFlag(QMessageBox::No);
   if (answers.empty()) answers = {asks ? QMessageBox::No : QMessageBox::Ok};
   auto* button = box.button(answers.front());
-  if (!button) ADD_FAILURE() << "no such answer to " << text.toStdString();
+  if (!button) ADD_FAILURE() << "no such answer to " << said_.back().text;
   (button ? button : box.buttons().front())->click();
   answers.erase(answers.begin());
 }
@@ -89,27 +80,16 @@ void press(const char* form, const char* button) {
   QTest::mouseClick(control<QPushButton>(form, button), Qt::LeftButton);
 }
 
-namespace {
-
-/// Message boxes may come before.
-void whenFormIsModal(const std::shared_ptr<bool>& isDone, const std::function<void()>& act) {
-  QTimer::singleShot(0, qApp, [isDone, act] {
-    if (!dynamic_cast<forms::Form*>(QApplication::activeModalWidget())) {
-      if (!*isDone) whenFormIsModal(isDone, act);
-      return;
-    }
-    *isDone = true;
-    act();
-  });
-}
-
-}  // namespace
-
 void inModal(const std::function<void()>& open, const std::function<void()>& act) {
-  const auto isDone = std::make_shared<bool>(false);
-  whenFormIsModal(isDone, act);
+  bool isDone = false;
+  QTimer watch;  // message boxes may come before
+  QObject::connect(&watch, &QTimer::timeout, [&] {
+    const bool isThere = dynamic_cast<forms::Form*>(QApplication::activeModalWidget());
+    if (isThere && !std::exchange(isDone, true)) act();
+  });
+  watch.start(0);
   open();
-  EXPECT_TRUE(std::exchange(*isDone, true)) << "no window was shown modally";
+  EXPECT_TRUE(isDone) << "no window was shown modally";
 }
 
 void pressAndThen(const char* form, const char* button, const std::function<void()>& act) {
@@ -166,14 +146,6 @@ WindowTest::WindowTest() {
   reset();
   ::setenv("temp", folder.path().c_str(), 1);
 }
-
-namespace {
-
-sys::Settings settings() {
-  return sys::Settings(sys::App.Title, "Settings");
-}
-
-}  // namespace
 
 void WindowTest::reset() {
   while (!forms::Form::loaded().empty()) forms::Form::loaded().back()->Unload();

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QWidget>
 
 #include <cstdlib>
@@ -14,6 +15,8 @@
 #include <sys/resource.h>
 #include <vector>
 
+#include "platform/system/application.h"
+#include "platform/system/settings.h"
 #include "support/format_model.h"
 
 namespace mill::test {
@@ -24,13 +27,9 @@ using Texts = std::vector<std::string>;
 /// A new folder that goes with the object.
 class TempFolder {
  public:
-  TempFolder();
-  ~TempFolder() { std::filesystem::remove_all(root_); }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-
   std::filesystem::path path(const std::string& name = {}) const {
-    return name.empty() ? root_ : root_ / name;
+    const std::filesystem::path root = root_.path().toStdString();
+    return name.empty() ? root : root / name;
   }
   /// The same in drive form.
   std::string drive(const std::string& name = {}) const;
@@ -41,7 +40,7 @@ class TempFolder {
   bool exists(const std::string& name) const { return std::filesystem::exists(path(name)); }
 
  private:
-  std::filesystem::path root_;
+  QTemporaryDir root_;
 };
 
 Bytes readFile(const std::filesystem::path& path);
@@ -140,6 +139,7 @@ class MainWindowTest : public WindowTest {
  protected:
   MainWindowTest();
 
+  static sys::Settings settings() { return sys::Settings(sys::App.Title, "Settings"); }
   void set(const char* key, const std::string& value);
   /// Creates and shows the window, as the program does.
   void start();

@@ -1,10 +1,8 @@
-#include "mainwindow/frm_main.h"
-
 #include <QAction>
 #include <QTest>
 
-#include "platform/system/application.h"
-#include "platform/system/settings.h"
+#include "mainwindow/frm_main.h"
+#include "mainwindow/frm_options.h"
 #include "support/windows.h"
 
 namespace mill::test {
@@ -12,7 +10,6 @@ namespace {
 
 class MainWindow : public MainWindowTest {
  protected:
-  static sys::Settings settings() { return sys::Settings(sys::App.Title, "Settings"); }
   static void click(const char* button) { control<QAbstractButton>("frmMain", button)->click(); }
 };
 
@@ -96,6 +93,39 @@ TEST_F(MainWindow, OffersWhatSuitsTheSelectionAndConvertsAtADoubleClick) {
   inModal(doubleClick, [] { press("frmConvert", "cmdYes"); });
   EXPECT_TRUE(folder.exists("out/a.bmp"));
   EXPECT_EQ(state.PictureFileName, "a.bmp");  // opened again
+}
+
+TEST_F(MainWindow, OptionsAreStoredAtOKAndAtApplyAndNotAtCancel) {
+  const std::string here = folder.drive(), old = here + "\\old.pal";
+  state.SourceDir = "Z:\\HERE";
+  state.DestDir = here;
+  state.DefaultPalette = old;
+  const auto stored = [] { return Texts{state.SourceDir, state.DestDir, state.DefaultPalette}; };
+  const auto confirm = [&](const char* button) {
+    type("frmOptions", "txtSource", here);
+    messages.answers = {QMessageBox::Cancel};
+    press("frmOptions", button);
+    EXPECT_EQ(messages.texts(), Texts{"The source and destination directories must be different.\n"
+                                      "Are you sure you want to continue?"});
+  };
+  frmOptions->show();
+  EXPECT_FALSE(isEnabled("frmOptions", "cmdApply"));
+  type("frmOptions", "txtDest", "Z:\\cancelled");
+  press("frmOptions", "cmdCancel");
+  frmOptions->show();
+  pressAndThen("frmOptions", "cmdPalBrowse", [] { press("frmFileBrowse", "cmdOK"); });  // no name
+  confirm("cmdOK");  // brings the directories back, and the window stays
+  EXPECT_EQ(stored(), (Texts{"Z:\\HERE", here, old}));
+  confirm("cmdApply");  // but stores the palette
+  EXPECT_EQ(stored(), (Texts{"Z:\\HERE", here, here + "\\"}));
+  type("frmOptions", "txtDest", "Z:\\");
+  pressAndThen("frmOptions", "cmdDestBrowse", [] { press("frmBrowse", "OKButton"); });
+  press("frmOptions", "cmdApply");
+  EXPECT_EQ(stored(), (Texts{"Z:\\HERE", "Z:\\", here + "\\"}));
+  type("frmOptions", "txtSource", "Z:\\last");
+  press("frmOptions", "cmdOK");
+  EXPECT_EQ(stored(), (Texts{"Z:\\last", "Z:\\", here + "\\"}));
+  EXPECT_FALSE(frmOptions.isLoaded());
 }
 
 }  // namespace

@@ -1,0 +1,62 @@
+#include <algorithm>
+#include <fstream>
+#include <sys/stat.h>
+
+#include "platform/system/files.h"
+#include "platform/system/temp_directory.h"
+#include "support/windows.h"
+
+namespace mill {
+namespace {
+
+namespace fs = std::filesystem;
+
+using test::Texts;
+using System = test::WindowTest;
+
+TEST_F(System, TemporaryFilesNeverLieWhereOthersCanWrite) {
+  ::unsetenv("temp");
+  ::setenv("XDG_CACHE_HOME", folder.path("cache").c_str(), 1);
+  ::setenv("TEMP", folder.path().c_str(), 1);
+  EXPECT_EQ(sys::tempDirectory(), folder.drive());
+  fs::permissions(folder.path(), fs::perms::others_write, fs::perm_options::add);
+  EXPECT_EQ(sys::tempDirectory(), folder.drive("cache/raster-mill"));
+  ::unsetenv("TEMP");
+}
+
+TEST_F(System, OnlyNormalFilesAreListedAndRead) {
+  for (const char* name : {"SKY.BMP", ".h.bmp", "\\.bmp", "\xFC.bmp", "bmp"})
+    folder.write(name, {});
+  ::mkfifo(folder.path("pipe.bmp").c_str(), 0600);
+  fs::create_symlink("SKY.BMP", folder.path("link.bmp"));
+  Texts found = sys::filesIn(folder.drive(), "*.bmp");
+  std::sort(found.begin(), found.end());
+  EXPECT_EQ(found, (Texts{"SKY.BMP", "link.bmp", "\xFC.bmp"}));
+  EXPECT_EQ(sys::filesIn(folder.drive(), "*.*").size(), 4u);
+  EXPECT_FALSE(sys::InputFile(folder.drive("pipe.bmp")).isOpen());
+}
+
+TEST_F(System, SettingsSavedOverADamagedFileAreThereInTheNextRun) {
+  const char* keys[] = {"Source", "Dest", "PalDir"};
+  const std::string texts[] = {" C:\\\xC3\xA4, \"b\"; x=1% ", "latin\xFC\\x", ""};
+  const std::string file = sys::Settings("Damaged", "Settings").file();
+  std::ofstream(file) << "garbage\n[Settings\nOther\n";
+  sys::Settings store("Damaged", "Settings");
+  for (const int i : {0, 1, 2}) store.setText(keys[i], texts[i]);
+  store.setFlag("Flag", false);
+  EXPECT_TRUE(store.save());
+  // Qt remembers what it has written, but reads a copy anew.
+  fs::copy(file, sys::Settings("Next", "Settings").file());
+  sys::Settings next("Next", "Settings");
+  for (const int i : {0, 1, 2}) EXPECT_EQ(next.text(keys[i], "other"), texts[i]);
+  EXPECT_EQ(next.text("Flag", ""), "False");
+  EXPECT_FALSE(next.flag("Flag", true));
+  const test::Limit fullDisk(RLIMIT_FSIZE, 0);
+  for (sys::Settings* unwritable : {&next, &store}) {
+    unwritable->setFlag("Flag", true);
+    EXPECT_FALSE(unwritable->save()) << unwritable->file();
+  }
+}
+
+}  // namespace
+}  // namespace mill
