@@ -25,7 +25,7 @@ class BrowseDialogs : public test::WindowTest {
     std::filesystem::create_directory_symlink(folder.path("c"),
                                               folder.path("prefix/dosdevices/c:"));
     ::setenv("WINEPREFIX", folder.path("prefix").c_str(), 1);
-    for (const char* name : {"a/1.pal", "a/2.PAL", "a/3.txt"}) folder.write(name, {});
+    for (const char* name : {"a/1.pal", "a/2.PAL", "a/0.txt"}) folder.write(name, {});
     state.FilePattern = "*.pal";
   }
   ~BrowseDialogs() override { ::unsetenv("WINEPREFIX"); }

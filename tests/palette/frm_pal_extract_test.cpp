@@ -18,7 +18,7 @@ constexpr const char* kForm = "frmPalExtract";
 class Extractor : public test::WindowTest {
  protected:
   Extractor() {
-    folder.makeFolder("out");
+    folder.makeFolder("out/sky");
     folder.write("sky.ksl", sky);
     folder.write("two.ksl", model::paletteList({{first, 12}, {second, 0}}));
     frmPalExtract->show();

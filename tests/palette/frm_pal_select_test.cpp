@@ -39,18 +39,19 @@ class Chooser : public test::MainWindowTest {
 TEST_F(Chooser, OnlyAButtonDecidesAndAPreviewIsNoChoice) {
   // The picture, the row chosen after both have been previewed, and what the button makes of it.
   const std::tuple<const char*, int, const char*, const char*, int> cases[] = {
-      {"a.bmp", 1, "cmdDefault", "pal/base.pal", 3}, {"b.bmp", 0, "cmdOK", "pal/25.pal", 20}};
+      {"a.bmp", 1, "cmdOK", "pal/sub/25.pal", 21}, {"b.bmp", 0, "cmdDefault", "pal/base.pal", 3}};
   addPicture("a.bmp");
   const test::Bytes picture = addPicture("b.bmp");
   start();
   for (const auto& [name, chosen, button, file, seed] : cases) {
     select({name});
     test::pressAndThen("frmMain", "cmdOpen", [&] {
+      const std::string current = state.CurrentPaletteFile;
       EXPECT_FALSE(test::isEnabled(kForm, "cmdOK"));
       for (const int row : {0, 1}) {
         choose(row);
         press(kForm, "cmdPrev");
-        EXPECT_EQ(state.CurrentPaletteFile, folder.drive("pal/base.pal"));
+        EXPECT_EQ(state.CurrentPaletteFile, current);
         expectPreview(picture, 20 + row);
       }
       choose(chosen);
