@@ -41,7 +41,7 @@ struct Result {
   double peak = 0;       ///< MB, of the first run
 };
 
-/// Counts the paintings of the two progress bars as long as it lives.
+/// Counts how often the two progress bars are painted.
 class Paintings final : public QObject {
  public:
   Paintings() {
@@ -59,7 +59,7 @@ class Paintings final : public QObject {
   int count_ = 0;
 };
 
-/// What one painting of a bar takes, the way to the screen included; in seconds.
+/// Seconds to paint a bar once, including the way to the screen.
 double paintingCost() {
   auto* bar = control<QProgressBar>("frmConvert", "Progress1");
   std::vector<double> times;
@@ -67,13 +67,13 @@ double paintingCost() {
   return median(times);
 }
 
-/// What converting costs, and how much of the elapsed time is the painting of the bars.
+/// The cost of a conversion, and how much of the elapsed time the bars' painting takes.
 struct Conversion {
   Cost cost;
   double painting = 0;  ///< seconds
 };
 
-/// Selects every picture and converts them; the cost is that of the click on "Yes".
+/// Selects every picture and converts them; measures the click on "Yes".
 Conversion convertThroughWindow(const Work& work) {
   auto* list = control<QListView>("frmMain", "filSource");
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {},

@@ -1,5 +1,5 @@
-// How fast the picture formats are read and written in memory, beside a copy of as many bytes. The
-// copy is the measure: there is nothing to compute, so all the rest is cost of our own.
+// How fast the picture formats are read and written in memory, compared with copying as many bytes:
+// there is nothing to compute, so anything beyond the copy is overhead.
 
 #include <benchmark/benchmark.h>
 

@@ -9,13 +9,13 @@
 
 namespace mill::bench {
 
-/// What an act costs, in seconds.
+/// What a measured action costs, in seconds.
 struct Cost {
   double processor = 0;
   double elapsed = 0;
 };
 
-/// Both clocks at one moment.
+/// Reads both clocks.
 Cost now();
 
 template <class Act>
@@ -33,10 +33,10 @@ double largest(const std::vector<double>& values);
 [[noreturn]] void fail(const std::string& what);
 void require(bool holds, const std::string& what);
 
-/// Lets the windows do all that waits.
+/// Processes all pending events.
 void settle();
 
-/// Removes a folder with all that is in it and makes it anew.
+/// Makes a folder empty, or creates it.
 void empty(const std::filesystem::path& folder);
 
 QWidget* window(const char* form);
@@ -50,22 +50,22 @@ W* control(const char* form, const char* name) {
   return found;
 }
 
-/// What the main window finds in its settings when it is loaded.
+/// The main window's settings.
 struct Folders {
   std::filesystem::path source;
   std::filesystem::path target;
-  std::filesystem::path palettes;  ///< none is searched where this is empty
+  std::filesystem::path palettes;  ///< no search if empty
 };
 
 /// Loads and shows the main window on these folders; `unload` ends it.
 void showMainWindow(const Folders& folders);
 void unloadMainWindow();
 
-/// Writes `count` pictures of palette index 1 and gives their names.
+/// Writes `count` pictures of palette index 1 and returns their names.
 std::vector<std::string> makePictures(const std::filesystem::path& folder, int count, int width,
                                       int height);
 
-/// Makes that many sub-directories with one palette each; the last one's is of index 1.
+/// Makes `count` sub-directories with one palette each; the last has index 1.
 void makePalettes(const std::filesystem::path& folder, int directories);
 
 }  // namespace mill::bench

@@ -1,5 +1,5 @@
-"""What other programs take for the work of a conversion, where they are installed: raw pixels behind
-a head of 44 bytes, turned into a bitmap of 256 colours. Takes a folder in memory-backed storage."""
+"""Measures other programs, where they are installed, on the work of a conversion: raw pixels after
+a header of 44 bytes become a 256-colour bitmap. Takes a folder in memory-backed storage."""
 
 import os
 import resource

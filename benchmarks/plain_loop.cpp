@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::size_t kSourceHead = 44;
 constexpr std::size_t kTargetHead = 1078;
-/// So much is written at a time; more doesn't gain anything.
+/// Bytes written at a time; larger pieces gain nothing.
 constexpr std::size_t kPiece = 1 << 20;
 
 void require(bool done, const std::string& what) {
@@ -24,7 +24,7 @@ void require(bool done, const std::string& what) {
   std::exit(1);
 }
 
-/// A buffer that is made once and grows.
+/// A reusable buffer that only grows.
 class Buffer {
  public:
   std::uint8_t* atLeast(std::size_t size) {

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Ends the program when a message box comes up.
+/// Ends the program when a message box appears.
 class NoMessages final : public QObject {
  public:
   NoMessages() { qApp->installEventFilter(this); }

@@ -53,7 +53,7 @@ void clickToPreview(const Folders& folders) {
   tick("chkAutoPrev", true);
   std::vector<double> times;
   for (int row = 0; row < 10; ++row) {
-    // The preview is painted when the click has been handled.
+    // The preview has been painted when the click returns.
     const double whole = measure([&] { click(row); }).elapsed;
     const double files =
         measure([&] {
@@ -123,7 +123,7 @@ void updateSwatches256() {
   state = {};
 }
 
-/// A list file of `count` palettes without any colour in common.
+/// A list file of `count` palettes that have no colour in common.
 void makeList(const fs::path& path, int count) {
   std::string bytes(static_cast<std::size_t>(52 + 1032 * count), '\0');
   for (std::size_t i = 52; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 31 + i / 1032);

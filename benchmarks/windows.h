@@ -4,7 +4,7 @@
 
 namespace mill::bench {
 
-/// How long a user waits for the windows: from a click to a preview, for each step of a drag, for a
+/// Measures how long a user waits: from a click to its preview, for each step of a drag, for a
 /// palette among many directories, for a long list of files.
 void runWindows(const std::filesystem::path& folder);
 

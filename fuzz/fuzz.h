@@ -11,7 +11,7 @@
 
 namespace fuzz {
 
-/// Ends the run, and keeps the input, where a promise of the code is broken.
+/// Aborts if an invariant doesn't hold, so that libFuzzer keeps the input.
 inline void require(bool kept) {
   if (!kept) std::abort();
 }

@@ -22,7 +22,7 @@ double distance(Rgb a, Rgb b) {
   return 3 * d.red * d.red + 5 * d.green * d.green + 2 * d.blue * d.blue;
 }
 
-/// Where the nearest colour stands.
+/// The index of the nearest colour.
 std::size_t nearest(const Palette& colours, Rgb wanted) {
   std::size_t best = kTransparent + 1;
   double least = distance(colours[best], wanted);
@@ -55,7 +55,7 @@ Palette fittedPalette(const std::vector<Pixel>& pixels) {
   constexpr int kRounds = 40000;
   Palette colours = basePalette();
   for (int round = 0; round < kRounds; ++round) {
-    // A large prime as the stride takes them from all over the picture.
+    // A large prime stride samples the whole picture.
     const Pixel pixel = pixels[static_cast<std::size_t>(round) * 7919 % pixels.size()];
     if (!pixel) {
       colours[kTransparent] = rgb(0xFF00FF);
@@ -65,7 +65,7 @@ Palette fittedPalette(const std::vector<Pixel>& pixels) {
     const double pull = 0.15 * (kRounds - round) / kRounds;
     const std::size_t index = nearest(colours, *pixel);
     draw(index, pull);
-    // Its neighbours come along a little, so that many entries find a use.
+    // Move its neighbours a little too, so that many entries are used.
     if (index % 16 < 15) draw(index + 1, pull * 0.05);
     if (index % 16 > 1) draw(index - 1, pull * 0.05);
   }
@@ -76,15 +76,14 @@ std::vector<std::uint8_t> quantised(const std::vector<Pixel>& pixels, int width,
                                     const Palette& colours) {
   const auto below = static_cast<std::size_t>(width);
   std::vector<std::uint8_t> indexes(pixels.size(), kTransparent);
-  // What the nearest colours missed is handed on to the neighbours, and at the end of a row to
-  // those across the picture, where it does no harm.
+  // Error diffusion. At the end of a row the error wraps to the other side, where it does no harm.
   std::vector<Rgb> errors(pixels.size() + below);
   for (std::size_t at = 0; at < pixels.size(); ++at) {
     if (!pixels[at]) continue;
     const Rgb wanted = *pixels[at] + errors[at];
     const std::size_t index = nearest(colours, wanted);
     indexes[at] = static_cast<std::uint8_t>(index);
-    // A little is lost on the way, which keeps noise out of even areas.
+    // Losing a little of the error keeps noise out of even areas.
     const Rgb missed = (wanted + colours[index] * -1) * 0.225;
     errors[at + 1] = errors[at + 1] + missed * 2;
     errors[at + below - 1] = errors[at + below - 1] + missed;

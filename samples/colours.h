@@ -9,23 +9,23 @@
 
 namespace samples {
 
-/// The index that no coloured pixel has.
+/// Never used for a coloured pixel.
 inline constexpr std::uint8_t kTransparent = 0;
 
 using Palette = std::array<Rgb, mill::kColours>;
 
-/// A palette for every purpose: sixteen colours in sixteen shades each, from dark to light. Index
+/// A general-purpose palette: sixteen colours in sixteen shades each, from dark to light. Index
 /// `16 * colour + shade`; index 0 is black.
 Palette basePalette();
 
-/// Some of those sixteen colours. From red to rose they stand in the order of the rainbow.
+/// Some of those sixteen colours. From red to rose they are in rainbow order.
 enum Hue { kWood = 1, kRed, kGold = 4, kGreen = 6, kBlue = 9, kRose = 12, kSkin, kSlate };
 
 /// A shade of one of them, from 0 (dark) to 1.
 Rgb shade(int hue, double t);
 
-/// The base palette, moved towards the colours of a picture, but so gently that the picture still
-/// looks like itself in the base palette.
+/// The base palette moved towards the colours of a picture, but so little that the picture still
+/// looks right in the base palette.
 Palette fittedPalette(const std::vector<Pixel>& pixels);
 
 /// The indexes of a picture in `colours`, transparent pixels at `kTransparent`.

@@ -1,5 +1,5 @@
 // Makes base.pal, the palette that the program starts with, and a folder of sample pictures with
-// their palettes. The same files come out on every machine.
+// their palettes. The files are the same on every machine.
 
 #include <algorithm>
 #include <exception>
@@ -33,7 +33,7 @@ void writeFile(const fs::path& path, const Bytes& bytes) {
   if (!file) throw std::runtime_error(path.string() + ": can't be written");
 }
 
-/// The colours as files hold them.
+/// The colours in the byte order of the files.
 mill::ColourTable entries(const Palette& colours) {
   const auto part = [](double value) {
     return static_cast<std::uint8_t>(std::clamp(value, 0.0, 1.0) * 255 + 0.5);
@@ -68,7 +68,7 @@ void writePicture(const fs::path& root, const Sample& sample, const Bytes& index
   writeFile(root / "pictures" / sample.name, file);
 }
 
-/// In every colour order by turns: blue first, red first, and red first in every second colour.
+/// Takes turns in colour order: blue first, red first, and red first in every second colour.
 void writePaletteList(const fs::path& path, const std::map<int, Palette>& palettes) {
   Bytes file(mill::kListHeadSize);
   mill::storeLittleEndian(file, 4, static_cast<std::uint32_t>(palettes.size()));
@@ -107,7 +107,7 @@ void makeSamples(const fs::path& root) {
   }
   writePaletteList(palettes / "ironveil.ksl", list);
 
-  // By moonlight the harbour is blue, and its reds are dark.
+  // The harbour by moonlight: blue, with dark reds.
   Palette night = list[25];
   for (Rgb& colour : night) {
     colour = mix(colour * 0.6, Rgb{0.4, 0.56, 1.0} * (colour.green * 0.6 + colour.blue * 0.5), 0.7);

@@ -6,8 +6,8 @@
 #include <initializer_list>
 #include <optional>
 
-// What scenes are painted with. It gives the same numbers on every machine: whole numbers, the four
-// operations and square roots, and no function that machines round differently.
+// What scenes are painted with. The results are the same on every machine: integers, the four
+// basic operations and square roots, and no function whose rounding may differ.
 
 namespace samples {
 
@@ -53,12 +53,12 @@ inline double step(double from, double to, double value) {
   return t * t * (3 - 2 * t);
 }
 
-/// From 1 to -1 and back again in every turn, much like a cosine.
+/// Like a cosine: from 1 to -1 and back in every turn.
 inline double wave(double turns) {
   return 2 * step(0, 0.5, std::abs(turns - std::floor(turns) - 0.5)) - 1;
 }
 
-/// 0 to 1, without a pattern, always the same for the same numbers.
+/// A hash of the numbers, 0 to 1.
 inline double hash(int x, int y, int seed) {
   auto h = static_cast<std::uint32_t>(x * 0x8DA6B343LL ^ y * 0xD8163841LL ^ seed * 0xCB1AB31FLL);
   h = (h ^ h >> 15) * 0x2C1B3C6DU;
@@ -81,7 +81,7 @@ inline double clouds(double x, double y, int seed) {
   double sum = 0;
   for (double strength = 0.5; strength > 0.01; strength /= 2) {
     sum += strength * noise(x, y, seed++);
-    // Shifted a little, so that the corners of the layers don't fall on each other.
+    // Shifted, so that the layers' corners don't coincide.
     x = x * 2 + 17.3;
     y = y * 2 + 31.7;
   }

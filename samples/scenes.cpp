@@ -39,7 +39,7 @@ Pixel shores(double u, double v) {
   return {};
 }
 
-// The lighthouse and a boat about their feet, y upwards.
+// The lighthouse and a boat, with the origin at their feet and y upwards.
 Pixel lighthouse(double x, double y) {
   const double side = std::abs(x);
   const bool red = y > 0.3 || whole(y * 26) % 2 == 1;
@@ -130,7 +130,7 @@ Pixel summit(double u, double v) {
   return mix(sky, mix(rgb(0xFFFFFF), rgb(0xA9B9D0), under * 0.8), step(0.52, 0.72, high));
 }
 
-/// How much of a planet's ring stands at x, y; 0 to 1.
+/// How dense a planet's ring is at x, y; 0 to 1.
 double ring(double x, double y) {
   const double radius = length(x, y * 3.6);
   const double gap = step(0.02, 0.05, std::abs(radius - 1.86));
@@ -149,7 +149,7 @@ Rgb deepSky(double u, double v) {
 }
 
 Pixel nebula(double u, double v) {
-  // The axis of the planet is tilted, and its radius the unit.
+  // The planet's axis is tilted; its radius is 1.
   const double x = (u - 0.6) * 4 - (v - 0.55) * 1.45;
   const double y = (v - 0.55) * 4 + (u - 0.6) * 1.45;
   const double z = std::sqrt(std::max(0.0, 1 - x * x - y * y));
@@ -177,7 +177,7 @@ Pixel seahorse(double u, double v) {
     ++count;
   }
   if (count == 700) return rgb(0x04050F);
-  // The further the last step went, the less of it counts. Whole steps would be seen as bands.
+  // Count the last step in proportion; whole steps would show as bands.
   const double steps = count + 16 / std::sqrt(length(x, y));
   const double t = 0.5 + 0.5 * wave(steps / 110 - 0.25);
   return gradient({0x3A1A10, 0xE07A1E, 0xFFD25A, 0xF4FBE4, 0x5CC0E8, 0x1B4FA8, 0x0A0F3C}, t);

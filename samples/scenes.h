@@ -7,7 +7,7 @@
 
 namespace samples {
 
-/// A picture, and what its file is like.
+/// A picture and the properties of its file.
 struct Sample {
   const char* name;
   const char* folder;                  ///< where its palette goes

@@ -1,18 +1,18 @@
 # shellcheck shell=bash disable=SC2034
-# Sourced by the scripts beside it: they run at the top of the source tree, with the packages that
-# they need.
+# Sourced by the scripts in this folder: changes to the top of the source tree and can install
+# packages.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# What the parts need, as Debian 12 names it.
+# Debian 12 packages, by purpose.
 build_packages=(qt6-base-dev cmake ninja-build g++ fonts-liberation)
 test_packages=(libgtest-dev libbenchmark-dev)
 desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
 fuzz_packages=(clang libclang-rt-14-dev)
 format_packages=(clang-format)
 
-# need PACKAGE... installs those that are missing. On a complete machine it neither asks for a
-# password nor uses the network.
+# need PACKAGE... installs those that are missing. If none is, it neither asks for a password
+# nor uses the network.
 need() {
   local package missing=() as_root=()
   for package; do

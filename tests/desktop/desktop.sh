@@ -37,7 +37,7 @@ start_screen() {
   export LANG=C.UTF-8 QT_QPA_PLATFORM=xcb DISPLAY
   export LSAN_OPTIONS=suppressions=$suppressions:print_suppressions=0
   unset LC_ALL WAYLAND_DISPLAY WINEPREFIX "${!QT_SCALE@}" QT_QPA_PLATFORMTHEME QT_STYLE_OVERRIDE
-  # Without -noreset the screen starts anew when the last client goes.
+  # Without -noreset the server resets when its last client disconnects.
   Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp -noreset 3>"$home/display" 2>/dev/null &
   screen=$!
   wait_until "the virtual screen" test -s "$home/display"

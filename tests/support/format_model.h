@@ -7,15 +7,15 @@
 
 #include "formats/picture_record.h"
 
-/// The file formats once more, byte by byte and as plainly as they can be put, to hold the program
-/// against. Of the program, only the shape of its colour table is used.
+/// An independent and deliberately simple implementation of the file formats, to test the program
+/// against. It shares only the colour table's type with the program.
 namespace model {
 
 using Bytes = std::vector<std::uint8_t>;
 
 using Colours = mill::ColourTable;
 
-/// 256 colours without a pattern in them; another `seed` gives others.
+/// 256 colours without a pattern; they differ for every `seed`.
 Colours someColours(int seed);
 /// `count` bytes in which no row is like its neighbour.
 Bytes somePixels(int count);

@@ -24,7 +24,7 @@ namespace mill::test {
 using model::Bytes;
 using Texts = std::vector<std::string>;
 
-/// A new folder that goes with the object.
+/// A temporary folder, removed with the object.
 class TempFolder {
  public:
   std::filesystem::path path(const std::string& name = {}) const {
@@ -72,7 +72,7 @@ class Messages : public QObject {
   std::vector<Said> said_;
 };
 
-/// The window of a form, rather a visible one than one that is just being unloaded.
+/// The window of a form; a visible one if another is just being unloaded.
 QWidget* window(const char* form);
 
 /// A control or menu item by its name; the test stops where there is none.
@@ -97,7 +97,7 @@ void inModal(const std::function<void()>& open, const std::function<void()>& act
 void pressAndThen(const char* form, const char* button, const std::function<void()>& act);
 /// Makes `text` that of a line edit or combo box, as if typed.
 void type(const char* form, const char* box, const std::string& text);
-/// Lets everything happen that waits in the event queue, deletions included.
+/// Processes all pending events, deferred deletions included.
 void settle();
 
 /// What a widget shows at this moment.

@@ -104,7 +104,7 @@ void Form::setVisible(bool visible) {
     if (!isTool()) activateWindow();
     Form_Activate();
   } else if (isVisible()) {
-    // An explicit position keeps the desktop from placing the window anew when it is shown again.
+    // An explicit position keeps the desktop from placing the window again each time it is shown.
     windowHandle()->setGeometry(geometry());
     QDialog::setVisible(false);
     leave();

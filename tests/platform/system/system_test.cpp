@@ -45,7 +45,7 @@ TEST_F(System, SettingsSavedOverADamagedFileAreThereInTheNextRun) {
   for (const int i : {0, 1, 2}) store.setText(keys[i], texts[i]);
   store.setFlag("Flag", false);
   EXPECT_TRUE(store.save());
-  // Qt remembers what it has written, but reads a copy anew.
+  // Qt caches what it has written, but really reads a copy.
   fs::copy(file, sys::Settings("Next", "Settings").file());
   sys::Settings next("Next", "Settings");
   for (const int i : {0, 1, 2}) EXPECT_EQ(next.text(keys[i], "other"), texts[i]);
