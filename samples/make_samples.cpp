@@ -77,7 +77,7 @@ void writePaletteList(const fs::path& path, const std::map<int, Palette>& palett
     file.resize(at + mill::kListRecordSize);
     for (int i = 0; mill::ColourEntry colour : entries(colours)) {
       const bool redFirst = turn % 3 == 1 || (turn % 3 == 2 && i % 2 == 1);
-      // 255 in the fourth byte is what tells a reader that red comes first.
+      // 255 in the fourth byte marks red first.
       colour.Extra = redFirst ? 255 : 0;
       if (redFirst) std::swap(colour.Red, colour.Blue);
       mill::storeColour(file, at, colour);
