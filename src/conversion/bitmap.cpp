@@ -3,11 +3,9 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageReader>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -55,18 +53,9 @@ QByteArray readWhole(const std::string& path) {
   return bytes;
 }
 
-/// Qt expects rows of a multiple of four bytes, which not every file has. The bytes missing at the
-/// end become colour 0 instead of whatever is in memory.
-void addMissingPadding(QByteArray& bytes) {
-  constexpr qsizetype kHeightAt = 22;
-  if (bytes.size() < kHeightAt + 4) return;
-  const auto height = qFromLittleEndian<qint32>(bytes.constData() + kHeightAt);
-  bytes.append(3 * std::min<qsizetype>(std::abs(qint64{height}), bytes.size()), '\0');
-}
-
-/// Filled with colour 0 first, since the reader leaves out pixels that a run-length bitmap skips.
+/// Filled with colour 0 first, since the reader leaves out what a run-length bitmap skips, and what
+/// the last row of a file without padding lacks.
 QImage readImage(QByteArray bytes) {
-  addMissingPadding(bytes);
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, "BMP");
   QImage image(reader.size(), reader.imageFormat());

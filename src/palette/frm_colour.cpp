@@ -49,7 +49,6 @@ void ColourForm::showColour(int index) {
   palette1->setCurrent(index);
   const ColourEntry entry = WorkingPalette[static_cast<std::size_t>(index)];
   lblOrginal->setColour(entry);
-  lblCurrent->setColour(entry);
   showNumbers(entry);
 }
 
