@@ -1,6 +1,7 @@
 #include "batches.h"
 
 #include <QListView>
+#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -8,6 +9,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <sstream>
 
 #include "harness.h"
 #include "plain_loop.h"
@@ -31,14 +33,17 @@ struct Work {
   double megabytes() const { return 1e-6 * count * width * height; }
 };
 
-/// The medians of several runs.
+const Work kWorks[] = {{"1 of 640 x 480", 1, 640, 480, ""},
+                       {"1000 of 640 x 480", 1000, 640, 480, "1.3"},
+                       {"2000 of 64 x 64", 2000, 64, 64, "1.8"},
+                       {"1 of 8192 x 8192", 1, 8192, 8192, "1.5"}};
+
+/// What one process measures.
 struct Result {
-  double ratio = 0;      ///< processor time to the plain loop's
   double processor = 0;  ///< seconds
   double elapsed = 0;    ///< seconds
-  double limit = 0;      ///< the plain loop's processor time, seconds
   double painting = 0;   ///< share of the elapsed time
-  double peak = 0;       ///< MB, of the first run
+  double peak = 0;       ///< MB
 };
 
 /// Counts how often the two progress bars are painted.
@@ -67,34 +72,30 @@ double paintingCost() {
   return median(times);
 }
 
-/// The cost of a conversion, and how much of the elapsed time the bars' painting takes.
-struct Conversion {
-  Cost cost;
-  double painting = 0;  ///< seconds
-};
-
 /// Selects every picture and converts them; measures the click on "Yes".
-Conversion convertThroughWindow(const Work& work) {
+Result convertThroughWindow(const Work& work) {
   auto* list = control<QListView>("frmMain", "filSource");
   QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                     list->visualRect(list->model()->index(0, 0)).center());
   QTest::keyClick(list, Qt::Key_A, Qt::ControlModifier);
-  Conversion result;
+  Result result;
   QTimer::singleShot(0, [&] {
     settle();
     auto* yes = control<QPushButton>("frmConvert", "cmdYes");
     require(yes->isVisible(), "the convert dialog is shown");
     const double onePainting = paintingCost();
     const Paintings paintings;
-    result.cost = measure([&] { yes->click(); });
-    result.painting = paintings.count() * onePainting;
+    const Cost cost = measure([&] { yes->click(); });
+    result = {.processor = cost.processor,
+              .elapsed = cost.elapsed,
+              .painting = paintings.count() * onePainting / cost.elapsed};
   });
   control<QPushButton>("frmMain", work.count > 1 ? "cmdBatch" : "cmdConvert")->click();
   settle();
   return result;
 }
 
-/// In MB, since the last call of `forgetPeak`.
+/// In MB.
 double peakMemory() {
   std::ifstream status("/proc/self/status");
   for (std::string line; std::getline(status, line);) {
@@ -103,73 +104,95 @@ double peakMemory() {
   return 0;
 }
 
-void forgetPeak() {
-  std::ofstream("/proc/self/clear_refs") << 5;
-}
-
 bool holds(const fs::path& folder, int count) {
   return std::distance(fs::directory_iterator(folder), {}) == count;
 }
 
-Result run(const Work& work, const std::vector<std::string>& names, const Folders& folders) {
-  empty(folders.target);
-  showMainWindow(folders);
-  forgetPeak();
-  convertThroughWindow(work);
-  Result result{.peak = peakMemory()};
+struct Place {
+  explicit Place(const fs::path& folder)
+      : source(folder / "source"), target(folder / "target"), palettes(folder / "palettes") {}
 
-  std::vector<double> ratios, processor, elapsed, limit, painting;
-  for (int i = 0; i < kRuns; ++i) {
-    empty(folders.target);
-    const Cost plain = measure([&] {
-      convertPlainly(names, folders.source.string(), folders.target.string(), work.width,
-                     work.height);
+  fs::path source, target, palettes;
+};
+
+Result measureHere(const Place& place, const std::string& what, const Work& work) {
+  if (what == "plain") {
+    const std::vector<std::string> names = namesOfPictures(work.count);
+    const Cost cost = measure([&] {
+      convertPlainly(names, place.source.string(), place.target.string(), work.width, work.height);
     });
-    empty(folders.target);
-    const auto [ours, bars] = convertThroughWindow(work);
-    require(holds(folders.target, work.count), "every picture was converted");
-    ratios.push_back(ours.processor / plain.processor);
-    processor.push_back(ours.processor);
-    elapsed.push_back(ours.elapsed);
-    limit.push_back(plain.processor);
-    painting.push_back(bars / ours.elapsed);
+    return {.processor = cost.processor, .elapsed = cost.elapsed};
   }
+  showMainWindow({place.source, place.target, what == "search" ? place.palettes : fs::path()});
+  Result result = convertThroughWindow(work);
+  result.peak = peakMemory();
   unloadMainWindow();
-  result.ratio = median(ratios);
-  result.processor = median(processor);
-  result.elapsed = median(elapsed);
-  result.limit = median(limit);
-  result.painting = median(painting);
   return result;
 }
 
-void print(const Work& work, const Result& result, const Result& withPalettes) {
+/// Measures in a process of its own, since a second run finds its memory already there.
+Result measureApart(const fs::path& folder, const char* what, int work) {
+  const Place place(folder);
+  empty(place.target);
+  QProcess process;
+  process.start(
+      QCoreApplication::applicationFilePath(),
+      {QString::fromStdString(folder.string()), QLatin1String(what), QString::number(work)});
+  process.waitForFinished(-1);
+  std::istringstream numbers(process.readAllStandardOutput().toStdString());
+  Result result;
+  numbers >> result.processor >> result.elapsed >> result.painting >> result.peak;
+  require(!numbers.fail() && holds(place.target, kWorks[work].count),
+          "every picture was converted: " + numbers.str());
+  return result;
+}
+
+std::vector<double> each(const std::vector<Result>& results, double Result::*value) {
+  std::vector<double> values;
+  for (const Result& result : results) values.push_back(result.*value);
+  return values;
+}
+
+void compare(const fs::path& folder, int index) {
+  const Work& work = kWorks[index];
+  std::vector<Result> plain, window, search;
+  std::vector<double> ratios, searchRatios;
+  for (int i = 0; i < kRuns; ++i) {
+    plain.push_back(measureApart(folder, "plain", index));
+    window.push_back(measureApart(folder, "window", index));
+    search.push_back(measureApart(folder, "search", index));
+    ratios.push_back(window.back().processor / plain.back().processor);
+    searchRatios.push_back(search.back().processor / plain.back().processor);
+  }
+  const double elapsed = median(each(window, &Result::elapsed));
   const double perPicture = 1e3 / work.count;
-  std::printf("%-20s %8.0f %7.0f %9.4f %9.4f %9.4f %6.2f %5s %7.1f%% %8.1f %9.2f %6.2f\n",
-              work.title, work.count / result.elapsed, work.megabytes() / result.elapsed,
-              result.processor * perPicture, result.elapsed * perPicture, result.limit * perPicture,
-              result.ratio, work.aim, 100 * result.painting, result.peak, withPalettes.ratio,
-              withPalettes.processor / result.processor);
+  std::printf("%-18s %8.0f %7.0f %9.4f %9.4f %9.4f %6.2f %6.2f %5s %7.1f%% %8.1f %8.2f\n",
+              work.title, work.count / elapsed, work.megabytes() / elapsed,
+              median(each(window, &Result::processor)) * perPicture, elapsed * perPicture,
+              median(each(plain, &Result::processor)) * perPicture, median(ratios), largest(ratios),
+              work.aim, 100 * median(each(window, &Result::painting)),
+              median(each(window, &Result::peak)), median(searchRatios));
   std::fflush(stdout);
 }
 
 }  // namespace
 
 void runBatches(const fs::path& folder) {
-  const Folders plain{folder / "source", folder / "target", {}};
-  const Folders searching{plain.source, plain.target, folder / "palettes"};
-  makePalettes(searching.palettes, kPaletteFolders);
-  std::printf("%-20s %8s %7s %9s %9s %9s %6s %5s %8s %8s %9s %6s\n", "", "pic/s", "MB/s", "cpu ms",
-              "ms", "limit ms", "ratio", "aim", "painting", "peak MB", "palettes:", "times");
-  for (const Work& work :
-       {Work{"1 of 640 x 480", 1, 640, 480, ""}, Work{"1000 of 640 x 480", 1000, 640, 480, "2.0"},
-        Work{"2000 of 64 x 64", 2000, 64, 64, "3.0"},
-        Work{"1 of 8192 x 8192", 1, 8192, 8192, "2.5"}}) {
-    empty(plain.source);
-    const auto names = makePictures(plain.source, work.count, work.width, work.height);
-    const Result without = run(work, names, plain);
-    print(work, without, run(work, names, searching));
+  const Place place(folder);
+  makePalettes(place.palettes, kPaletteFolders);
+  std::printf("%-18s %8s %7s %9s %9s %9s %6s %6s %5s %8s %8s %8s\n", "", "pic/s", "MB/s", "cpu ms",
+              "ms", "plain ms", "ratio", "most", "aim", "painting", "peak MB", "palettes");
+  for (int i = 0; i < static_cast<int>(std::size(kWorks)); ++i) {
+    empty(place.source);
+    makePictures(place.source, kWorks[i].count, kWorks[i].width, kWorks[i].height);
+    compare(folder, i);
   }
+}
+
+void runBatch(const fs::path& folder, const std::string& what, int work) {
+  const Result result = measureHere(Place(folder), what, kWorks[work]);
+  std::printf("%.9f %.9f %.9f %.3f\n", result.processor, result.elapsed, result.painting,
+              result.peak);
 }
 
 }  // namespace mill::bench

@@ -116,6 +116,7 @@ void showMainWindow(const Folders& folders) {
   settings.setText("PalDir", sys::drivePath(folders.palettes.string()));
   settings.setText("Palette", sys::drivePath((folders.source / "base.pal").string()));
   for (const char* flag : {"AutoPal", "Search", "ShowPal"}) settings.setFlag(flag, search);
+  for (const char* flag : {"ShowPrev", "AutoPrev"}) settings.setFlag(flag, false);
   require(settings.save(), "the settings are saved");
   frmMain->show();
   waitUntilShown("frmMain");
@@ -127,13 +128,18 @@ void unloadMainWindow() {
   state = {};
 }
 
-std::vector<std::string> makePictures(const fs::path& folder, int count, int width, int height) {
-  const std::string bytes = kestrelBitmap(width, height);
+std::vector<std::string> namesOfPictures(int count) {
   std::vector<std::string> names;
   for (int i = 0; i < count; ++i) {
     names.push_back("picture" + std::to_string(100000 + i) + ".bmp");
-    save(folder / names.back(), bytes);
   }
+  return names;
+}
+
+std::vector<std::string> makePictures(const fs::path& folder, int count, int width, int height) {
+  const std::string bytes = kestrelBitmap(width, height);
+  std::vector<std::string> names = namesOfPictures(count);
+  for (const std::string& name : names) save(folder / name, bytes);
   return names;
 }
 

@@ -61,6 +61,7 @@ struct Folders {
 void showMainWindow(const Folders& folders);
 void unloadMainWindow();
 
+std::vector<std::string> namesOfPictures(int count);
 /// Writes `count` pictures of palette index 1 and returns their names.
 std::vector<std::string> makePictures(const std::filesystem::path& folder, int count, int width,
                                       int height);

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include <cstdio>
+#include <cstdlib>
 
 #include "batches.h"
 #include "harness.h"
@@ -28,15 +29,20 @@ class NoMessages final : public QObject {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
+  if (argc != 2 && argc != 4) {
     std::fprintf(stderr, "usage: window-bench FOLDER\n");
     return 2;
   }
   const forms::Desktop desktop(argv[0]);
   const NoMessages noMessages;
+  if (argc == 4) {
+    mill::bench::runBatch(argv[1], argv[2], std::atoi(argv[3]));
+    return 0;
+  }
   std::printf(
-      "Whole conversions, processor time against the plain loop; then with the palette\n"
-      "search over 50 folders and the swatch window, and how many times that is\n");
+      "Whole conversions in fresh processes, processor time against the plain loop; last the "
+      "ratio\n"
+      "with the palette search over 50 folders and the swatch window\n");
   mill::bench::runBatches(argv[1]);
   std::printf("\nWaiting for windows\n");
   mill::bench::runWindows(argv[1]);

@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/system/files.h"
+#include "platform/system/file_io.h"
 
 namespace mill {
 

@@ -28,11 +28,13 @@ void ConvertForm::Form_Load() {
 }
 
 void ConvertForm::incProgress(std::int16_t num, std::int32_t times) {
-  count.report(num, times, [this](std::int32_t percent) { Progress1->setValue(percent); });
+  count.report(num, times, [this](std::int32_t percent) { Progress1->pass(percent); });
+  Progress1->follow();
 }
 
 void ConvertForm::incOpenProgress(std::int16_t num, std::int32_t times) {
-  count.report(num, times, [this](std::int32_t percent) { Progress2->setValue(percent); });
+  count.report(num, times, [this](std::int32_t percent) { Progress2->pass(percent); });
+  Progress2->follow();
 }
 
 void ConvertForm::cmdYes_Click() {

@@ -56,7 +56,10 @@ bool isDamaged(const KestrelHead& head, std::int64_t fileSize) {
   if (head.dataSize < 0) return true;
   if (fileSize < std::int64_t{kKestrelFrameSize} + head.dataSize) return true;
   if (head.height == 0) return head.dataSize > 0;
-  return rowDifference(head.width, head.height, head.dataSize) > kMaxDifference;
+  const double difference = rowDifference(head.width, head.height, head.dataSize);
+  // Rows without any byte would turn a file of a few bytes into a picture of a gigabyte.
+  const bool isWithoutRows = head.width > 0 && head.width + difference <= 0;
+  return isWithoutRows || difference > kMaxDifference;
 }
 
 /// The size of the pixel data without any surplus that follows the rows.

@@ -11,6 +11,7 @@
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/forms/msg_box.h"
+#include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
 #include "platform/system/text.h"
@@ -20,8 +21,8 @@ namespace mill {
 namespace {
 
 Fault readList(const std::string& path, std::vector<ListPalette>& palettes) {
-  if (!sys::isNormalFile(path)) return Fault::PaletteListMissing;
   sys::InputFile file(path);
+  if (!file.isOpen() && !sys::isNormalFile(path)) return Fault::PaletteListMissing;
   std::array<std::uint8_t, kListHeadSize> head{};
   if (!file.isOpen() || !file.read(head)) return Fault::NotAPaletteList;
   int count = 0;
@@ -53,7 +54,7 @@ void PalExtractForm::showPalette() {
 
 void PalExtractForm::cmdSourceBrowse_Click() {
   QFileDialog dialog(this, QStringLiteral("Find KSL files"),
-                     sys::shown(sys::nativePath(state.PalDir).string()),
+                     sys::shown(sys::nativePath(state.PalDir)),
                      QStringLiteral("KSL files (*.ksl)"));
   dialog.setObjectName(QStringLiteral("CDlg1"));
   dialog.setFileMode(QFileDialog::ExistingFile);

@@ -9,6 +9,7 @@
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/forms/msg_box.h"
+#include "platform/system/file_io.h"
 #include "platform/system/files.h"
 
 namespace mill {
@@ -17,17 +18,18 @@ namespace {
 
 /// Fills `read` with the bytes of the file, at most those of a whole palette.
 Fault readFile(const std::string& path, std::vector<std::uint8_t>& read) {
-  if (!sys::isNormalFile(path)) return Fault::PaletteMissing;
   sys::InputFile file(path);
-  if (!file.isOpen()) return Fault::PaletteUnreadable;
+  if (!file.isOpen()) {
+    return sys::isNormalFile(path) ? Fault::PaletteUnreadable : Fault::PaletteMissing;
+  }
   read.resize(static_cast<std::size_t>(std::min<std::int64_t>(file.size(), kPaletteFileSize)));
   return file.read(read) ? Fault::None : Fault::PaletteUnreadable;
 }
 
 bool writeFile(const std::string& path, const ColourTable& colours) {
   const auto bytes = paletteBytes(state.PaletteHeader, colours);
-  sys::OutputFile file(path, static_cast<std::int64_t>(bytes.size()));
-  return file.isOpen() && file.write(bytes) && file.close();
+  sys::OutputFile file(path, sys::Tail::Keep);
+  return file.isOpen() && file.write(bytes) && file.commit();
 }
 
 }  // namespace

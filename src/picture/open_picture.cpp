@@ -14,6 +14,7 @@
 #include "picture/warn.h"
 #include "platform/forms/hourglass.h"
 #include "platform/forms/msg_box.h"
+#include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
 
@@ -30,7 +31,6 @@ class PictureFile {
 
   /// A file shorter than two bytes has no magic; `magic` then stays 0.
   Fault readMagic(Magic& magic) {
-    if (!file_.isOpen()) return Fault::PictureUnreadable;
     if (file_.size() < 2) return Fault::None;
     return file_.read(magic) ? Fault::None : Fault::PictureUnreadable;
   }
@@ -44,6 +44,7 @@ class PictureFile {
                                                              : Fault::PictureUnreadable;
   }
 
+  bool isOpen() const { return file_.isOpen(); }
   std::int64_t size() const { return file_.size(); }
   ReadBytes rest() {
     return [this](std::span<std::uint8_t> bytes) { return file_.read(bytes); };
@@ -93,9 +94,10 @@ Fault readStandard(PictureFile& file, const Magic& magic) {
 }  // namespace
 
 void OpenPicture(const std::string& path, PaletteNames* names) {
-  if (!sys::isNormalFile(path)) return warn(Fault::PictureMissing);
-
   std::optional<PictureFile> file(path);
+  if (!file->isOpen()) {
+    return warn(sys::isNormalFile(path) ? Fault::PictureUnreadable : Fault::PictureMissing);
+  }
   Magic magic{};
   Fault fault = Fault::None;
   {

@@ -5,37 +5,34 @@
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "platform/forms/hourglass.h"
-#include "platform/system/files.h"
 
 namespace mill {
 
 namespace {
 
-bool writeFile(const std::string& path, RowOrder rows, Progress& progress) {
+Fault writeFile(const std::string& path, sys::Tail tail, Progress& progress) {
   const forms::Hourglass hourglass;
-  const PictureRecord& record = state.PictureRecord;
-  sys::OutputFile file(path, standardBitmapSize(record, rows));
-  if (!file.isOpen()) return false;
+  const RowOrder rows = state.RecordIsStandard ? RowOrder::AsStored : RowOrder::BottomUp;
+  sys::OutputFile file(path, tail);
+  if (!file.isOpen()) return Fault::Unwritable;
+  if (file.wouldReplace(state.PictureSourceFile)) return Fault::SameDirectory;
   const WriteBytes write = [&](std::span<const std::uint8_t> bytes) { return file.write(bytes); };
-  return writeStandardBitmap(record, rows, write, progress) && file.close();
+  const bool isWritten = writeStandardBitmap(state.PictureRecord, rows, write, progress);
+  return isWritten && file.commit() ? Fault::None : Fault::Unwritable;
 }
 
 }  // namespace
 
-bool WriteBitmap(const std::string& path) {
-  if (sys::isSame(path, state.PictureSourceFile)) {
-    warn(Fault::SameDirectory);
-    return false;
-  }
+bool WriteBitmap(const std::string& path, sys::Tail tail) {
   Reports progress(hooks.incProgress);
   if (!state.RecordIsStandard) {
     fillOutputHeader(state.PictureRecord);
     progress.start(state.PictureRecord.bfSize);
   }
   state.PictureRecord.Colours = state.PaletteTable;
-  const RowOrder rows = state.RecordIsStandard ? RowOrder::AsStored : RowOrder::BottomUp;
-  if (writeFile(path, rows, progress)) return true;
-  warn(Fault::Unwritable, path);
+  const Fault fault = writeFile(path, tail, progress);
+  if (fault == Fault::None) return true;
+  warn(fault, fault == Fault::Unwritable ? path : std::string());
   return false;
 }
 

@@ -4,6 +4,8 @@
 #include <QImageReader>
 #include <QProxyStyle>
 
+#include <malloc.h>
+
 #include "platform/system/application.h"
 #include "platform/system/text.h"
 
@@ -53,6 +55,10 @@ Desktop::Desktop(char* programName)
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new CompactStyle);
   QApplication::setFont(defaultFont());
+  // Memory goes from one picture to the next; giving it back and asking for it again costs more
+  // than converting a picture.
+  ::mallopt(M_MMAP_THRESHOLD, 1 << 25);
+  ::mallopt(M_TRIM_THRESHOLD, 1 << 26);
   // Large pictures exceed Qt's limit, and only images written by this program are read.
   QImageReader::setAllocationLimit(0);
 }

@@ -26,6 +26,7 @@ ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
 }
 
 void ProgressBar::follow() {
+  if (value_ == value()) return;
   if (coarseNow() - lastPaint_ >= kPaintGap) {
     paintNow();
   } else if (!timer_.isActive()) {

@@ -18,9 +18,13 @@ class ProgressBar final : public QProgressBar {
   int Value() const { return value_; }
   /// Clamped to 0…100.
   void setValue(int percent) {
-    value_ = std::clamp(percent, 0, 100);
-    if (value_ != value()) follow();
+    pass(percent);
+    follow();
   }
+  /// Sets one of many values in a row; call `follow` after the last of them.
+  void pass(int percent) { value_ = std::clamp(percent, 0, 100); }
+  /// Brings the value to the screen, now or a little later.
+  void follow();
   /// Shows the value now, at the end of a run.
   void paintNow();
 
@@ -28,8 +32,6 @@ class ProgressBar final : public QProgressBar {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  void follow();
-
   int value_ = 0;
   std::int64_t lastPaint_ = 0;  ///< nanoseconds
   QBasicTimer timer_;

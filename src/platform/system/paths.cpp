@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <filesystem>
 
 namespace sys {
 
@@ -29,7 +30,7 @@ std::string driveRoot(char letter) {
 
 }  // namespace
 
-std::filesystem::path nativePath(std::string_view path) {
+std::string nativePath(std::string_view path) {
   std::string native;
   if (hasDrive(path)) {
     native = driveRoot(path[0]);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +12,7 @@ namespace sys {
 
 /// The native path for `path`, whether or not it exists; empty if it has neither a drive nor a
 /// leading slash. Doesn't access the file system.
-std::filesystem::path nativePath(std::string_view path);
+std::string nativePath(std::string_view path);
 
 /// Converts an absolute native path to drive form, on `Z:`. A path with a drive gets backslashes;
 /// any other text is returned unchanged.

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <sys/stat.h>
 
+#include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/temp_directory.h"
 #include "support/windows.h"
