@@ -7,7 +7,7 @@
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "picture/write_bitmap.h"
-#include "platform/forms/msg_box.h"
+#include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
 
@@ -24,6 +24,10 @@ void ConvertForm::Form_Load() {
   hooks.isConverting = [this] { return active() == this; };
   hooks.startProgress = [this](std::int32_t total) { count.total = total; };
   hooks.incOpenProgress = [this](std::int16_t num, std::int32_t n) { incOpenProgress(num, n); };
+  hooks.tell = [this](const forms::Message& message) {
+    return run_ ? run_->tell(message) : forms::MsgBox(message);
+  };
+  hooks.whichPicture = [this] { return run_ ? run_->whichPicture() : std::string(); };
   hooks.incProgress = [this](std::int16_t num, std::int32_t n) { incProgress(num, n); };
 }
 
@@ -64,35 +68,31 @@ void ConvertForm::enableButtons(bool enabled) {
 }
 
 void ConvertForm::convertSelection() {
+  sys::clearLeftovers(destinationDirectory());
+  run_.emplace(sourceDirectory(), state.SelectedCount);
   PaletteNames names;
-  for (std::int32_t i = 0; i < state.SelectedCount; ++i) {
-    const bool written = convertFile(state.SelectedFiles[static_cast<std::size_t>(i)], names);
-    const bool more = i + 1 < state.SelectedCount;
-    if (!written && more &&
-        forms::MsgBox({.text = "Go on with the remaining pictures?",
-                       .title = kWarning,
-                       .buttons = forms::Buttons::YesNo,
-                       .icon = forms::Icon::Critical}) == forms::Answer::No) {
-      return;
-    }
+  for (std::int32_t i = 0; i < state.SelectedCount && run_->goesOn(); ++i) {
+    const std::string& name = state.SelectedFiles[static_cast<std::size_t>(i)];
+    run_->next(name);
+    convertFile(name, names);
   }
+  run_->sumUp();
+  run_.reset();
 }
 
-/// False if the bitmap couldn't be written. A refused picture isn't written and counts as success.
-bool ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
+/// Skips a picture that is refused: its name doesn't become that of the open picture.
+void ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
   Progress2->setValue(100);
   Progress1->setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
     OpenPicture(sys::join(sourceDirectory(), name), &names);
   }
-  bool written = true;
   if (name == state.PictureFileName) {
     count.current = 0;
-    written = WriteBitmap(sys::join(destinationDirectory(), name));
+    static_cast<void>(WriteBitmap(sys::join(destinationDirectory(), name)));  // tells of failures
   }
   Progress2->setValue(0);
-  return written;
 }
 
 }  // namespace mill

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
+#include "conversion/conversion_run.h"
 #include "formats/progress_count.h"
 #include "picture/find_palette.h"
 #include "platform/forms/form.h"
@@ -36,7 +38,9 @@ class ConvertForm final : public forms::Form {
   bool directoriesAreOne() const;
   void enableButtons(bool enabled);
   void convertSelection();
-  bool convertFile(const std::string& name, PaletteNames& names);
+  void convertFile(const std::string& name, PaletteNames& names);
+
+  std::optional<ConversionRun> run_;
 
   // clang-format off
   QLabel*             Label2    = label("Label2", "Are you sure you want to continue with the bitmap conversion.", { 120,  120, 3615, 1095}, {.Points = 12, .Bold = true});

@@ -111,7 +111,7 @@ void ColourForm::cmdLoad_Click() {
   const std::string path = pickFile("Load Palette File");
   if (path.empty()) return;
   std::string head;  // unused: files saved here get the head of the current palette
-  if (!readPaletteFile(path, head, WorkingPalette)) return keepFile();
+  if (!readPaletteFile(path, head, WorkingPalette).isRead) return keepFile();
   hasFile_ = true;
   palette1->setColours(WorkingPalette);
 }

@@ -1,8 +1,10 @@
 #include "palette/frm_pal_select.h"
 
 #include "conversion/show_preview.h"
+#include "picture/hooks.h"
 #include "picture/load_palette.h"
 #include "picture/program_state.h"
+#include "platform/forms/plain_text.h"
 
 namespace mill {
 
@@ -15,6 +17,12 @@ PalSelectForm::PalSelectForm()
   // Long paths usually differ at the end.
   lstPalette->setTextElideMode(Qt::ElideLeft);
   lstPalette->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void PalSelectForm::offer(const QStringList& paths, const QString& picture) {
+  lstPalette->setTexts(paths);
+  setToolTip(forms::plainToolTip(picture));
+  setAccessibleDescription(picture);
 }
 
 void PalSelectForm::lstPalette_Click() {
@@ -44,7 +52,8 @@ void PalSelectForm::cmdOK_Click() {
 void selectPalette(const std::vector<std::string>& paths) {
   QStringList texts;
   for (const std::string& path : paths) texts.append(sys::shown(path));
-  frmPalSelect->showPaths(texts);
+  const std::string inRun = hooks.whichPicture();
+  frmPalSelect->offer(texts, sys::shown(inRun.empty() ? state.PictureSourceFile : inRun));
   frmPalSelect->showModal();
 }
 

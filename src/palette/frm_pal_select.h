@@ -15,7 +15,8 @@ class PalSelectForm final : public forms::Form {
  public:
   PalSelectForm();
 
-  void showPaths(const QStringList& paths) { lstPalette->setTexts(paths); }
+  /// Offers these files for a picture.
+  void offer(const QStringList& paths, const QString& picture);
 
  private:
   void lstPalette_Click();

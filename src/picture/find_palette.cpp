@@ -64,10 +64,10 @@ std::vector<std::string> PaletteNames::find(const std::string& name) {
   return found == paths_->end() ? std::vector<std::string>() : found->second;
 }
 
-void FindPalette(PaletteNames* names) {
+Fault FindPalette(PaletteNames* names) {
   settlePalette(names);
   hooks.showPaletteFile();
-  LoadPalette();
+  return LoadPalette();
 }
 
 }  // namespace mill

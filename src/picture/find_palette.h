@@ -5,6 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "formats/fault.h"
+
 namespace mill {
 
 /// The names of all palette files that the search considers, read once for all pictures of a run.
@@ -22,7 +24,7 @@ class PaletteNames {
 /// Loads the palette for `PaletteIndex`: the file named after the index in the palette directory
 /// or, with `Search`, one level below it. If there are several, the user chooses; if there is none,
 /// the default palette is used silently. Index 0 means the colours of the standard bitmap opened
-/// last. A run passes its `names`.
-void FindPalette(PaletteNames* names = nullptr);
+/// last. A run passes its `names`. The result is that of `LoadPalette`.
+Fault FindPalette(PaletteNames* names = nullptr);
 
 }  // namespace mill

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "formats/byte_stream.h"
+#include "platform/forms/msg_box.h"
 
 namespace mill {
 
@@ -20,6 +21,11 @@ struct Hooks {
   std::function<void(std::int16_t num, std::int32_t times)> incOpenProgress = [](int, int) {};
   /// Reports `num` bytes written, `times` times.
   std::function<void(std::int16_t num, std::int32_t times)> incProgress = [](int, int) {};
+
+  /// Shows a message. A run adds which picture it is about.
+  std::function<forms::Answer(const forms::Message&)> tell = forms::MsgBox;
+  /// Which picture of how many a run has come to, with its path; empty outside of a run.
+  std::function<std::string()> whichPicture = [] { return std::string(); };
 
   /// Gives the preview window the size of a picture of `width` × `height` pixels.
   std::function<void(std::int32_t width, std::int32_t height)> fitPreview = [](int, int) {};

@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <vector>
 
-#include "formats/fault.h"
 #include "formats/palette_file.h"
 #include "picture/hooks.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
-#include "platform/forms/msg_box.h"
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
 
@@ -34,7 +32,7 @@ bool writeFile(const std::string& path, const ColourTable& colours) {
 
 }  // namespace
 
-bool readPaletteFile(const std::string& path, std::string& head, ColourTable& colours) {
+PaletteRead readPaletteFile(const std::string& path, std::string& head, ColourTable& colours) {
   std::vector<std::uint8_t> bytes;
   Fault fault = readFile(path, bytes);
   const bool hasHead = fault == Fault::None && bytes.size() >= kPaletteHeadSize;
@@ -42,9 +40,9 @@ bool readPaletteFile(const std::string& path, std::string& head, ColourTable& co
   if (fault == Fault::PaletteUnreadable) {
     warn(fault, path);
   } else if (fault != Fault::None) {
-    forms::MsgBox({.text = std::string(message(fault))});
+    hooks.tell({.text = std::string(message(fault))});
   }
-  return hasHead;
+  return {fault, hasHead};
 }
 
 bool writePaletteFile(const std::string& path, const ColourTable& colours) {
@@ -53,10 +51,11 @@ bool writePaletteFile(const std::string& path, const ColourTable& colours) {
   return false;
 }
 
-void LoadPalette() {
-  const bool read =
+Fault LoadPalette() {
+  const auto [fault, isRead] =
       readPaletteFile(state.CurrentPaletteFile, state.PaletteHeader, state.PaletteTable);
-  if (read && state.ShowPal) hooks.updateSwatches();
+  if (isRead && state.ShowPal) hooks.updateSwatches();
+  return fault;
 }
 
 bool SavePalette() {

@@ -13,7 +13,6 @@
 #include "picture/temporary_files.h"
 #include "picture/warn.h"
 #include "platform/forms/hourglass.h"
-#include "platform/forms/msg_box.h"
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
@@ -55,10 +54,10 @@ class PictureFile {
 };
 
 bool wantsStandardBitmap() {
-  return forms::MsgBox({.text = "This file is a standard bitmap file.\n"
-                                "Are you sure you want to open it.",
-                        .buttons = forms::Buttons::YesNo,
-                        .icon = forms::Icon::Information}) == forms::Answer::Yes;
+  return hooks.tell({.text = "This file is a standard bitmap file.\n"
+                             "Are you sure you want to open it.",
+                     .buttons = forms::Buttons::YesNo,
+                     .icon = forms::Icon::Information}) == forms::Answer::Yes;
 }
 
 Fault readKestrel(PictureFile& file, const Magic& magic) {
@@ -137,7 +136,11 @@ void OpenPicture(const std::string& path, PaletteNames* names) {
   state.PictureFileName = sys::fileNameOf(path);
   state.PictureSourceFile = path;
   state.TempPicturePath = tempPicturePath();
-  if (state.AutoPal && loadable) FindPalette(names);
+  if (!state.AutoPal || !loadable) return;
+  const Fault palette = FindPalette(names);
+  const bool isBroken = palette != Fault::None && palette != Fault::PaletteMissing;
+  // A run must not write the picture in the colours of another one.
+  if (isBroken && hooks.isConverting()) state.PictureFileName.clear();
 }
 
 }  // namespace mill

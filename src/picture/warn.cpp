@@ -1,11 +1,11 @@
 #include "picture/warn.h"
 
-#include "platform/forms/msg_box.h"
+#include "picture/hooks.h"
 
 namespace mill {
 
 void warn(const std::string& text) {
-  forms::MsgBox({.text = text, .title = kWarning, .icon = forms::Icon::Critical});
+  hooks.tell({.text = text, .title = kWarning, .icon = forms::Icon::Critical});
 }
 
 void warn(Fault fault, const std::string& path) {
@@ -13,7 +13,7 @@ void warn(Fault fault, const std::string& path) {
   if (!path.empty()) text += "\n" + path;
   // Using one directory for both is a slip of the user; everything else is a failure.
   if (fault != Fault::SameDirectory) return warn(text);
-  forms::MsgBox({.text = text, .title = kWarning, .icon = forms::Icon::Information});
+  hooks.tell({.text = text, .title = kWarning, .icon = forms::Icon::Information});
 }
 
 }  // namespace mill

@@ -75,17 +75,30 @@ TEST_F(Conversion, TakesTheSelectionAndSkipsWhatIsRefused) {
   EXPECT_TRUE(isEnabled("frmConvert", "cmdYes") && !isEnabled("frmMain", "cmdBatch"));
 }
 
-TEST_F(Conversion, AsksWhetherToGoOnAfterAFailure) {
-  for (const char* name : {"a.bmp", "b.bmp", "c.bmp"}) addPicture(name);
-  const std::string goOn = "Go on with the remaining pictures?";
-  const std::string failure = "The file can't be written.\n" + folder.drive("gone/");
+TEST_F(Conversion, AsksFromTheSecondFailureOnAndSumsUpWhatWasPassedOver) {
+  const Texts names = {"a.bmp", "b.bmp", "c.bmp", "d.bmp", "e.bmp"};
+  for (const std::string& name : names) addPicture(name);
+  folder.write("in/c.bmp", {'K'});
   set("Dest", folder.drive("gone"));
   start();
-  messages.answers = {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::Ok, QMessageBox::No};
-  convert({"a.bmp", "b.bmp", "c.bmp"});
-  EXPECT_EQ(messages.texts(), (Texts{failure + "a.bmp", goOn, failure + "b.bmp", goOn}));
-  convert({"c.bmp"});
-  EXPECT_EQ(messages.texts(), Texts{failure + "c.bmp"});
+  Texts below;
+  messages.meanwhile = [&] {
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    below.push_back((box->informativeText() + box->detailedText()).toStdString());
+    if (below.size() == 3) box->checkBox()->setChecked(true);
+  };
+  const std::string failure = "The file can't be written.\n" + folder.drive("gone/");
+  const std::string ask = "\nGo on with the remaining pictures?", in = folder.drive("in/");
+  messages.answers = {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::Yes, QMessageBox::Ok};
+  convert(names);
+  EXPECT_EQ(messages.texts(),
+            (Texts{failure + "a.bmp", failure + "b.bmp", "This file is not a valid bitmap file.",
+                   "2 of 5 pictures were passed over."}));
+  EXPECT_EQ(below, (Texts{"1 of 5\n" + in + "a.bmp", "2 of 5\n" + in + "b.bmp" + ask,
+                          "3 of 5\n" + in + "c.bmp" + ask, "d.bmp\ne.bmp\n"}));
+  messages.answers = {QMessageBox::Ok, QMessageBox::No};
+  convert(names);
+  EXPECT_EQ(messages.texts().size(), 2u);
 
   std::filesystem::create_directory_symlink("in", folder.path("gone"));  // is said once
   convert({"a.bmp", "b.bmp"});

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "platform/forms/plain_text.h"
 #include "platform/system/text.h"
 
 namespace forms {
@@ -25,10 +26,7 @@ ElidedLabel::ElidedLabel(QWidget* parent, int frameStyle) : QLabel(parent) {
 void ElidedLabel::showText(const std::string& text) {
   setText(sys::shown(text));
   const bool isWhole = frameWidth() == 0 && fits(this->text());
-  const bool looksRich = Qt::mightBeRichText(this->text());
-  setToolTip(isWhole     ? QString()
-             : looksRich ? QLatin1String("<p>") + this->text().toHtmlEscaped()
-                         : this->text());
+  setToolTip(isWhole ? QString() : plainToolTip(this->text()));
   setAccessibleDescription(this->text());
 }
 

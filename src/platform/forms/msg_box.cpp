@@ -1,5 +1,7 @@
 #include "platform/forms/msg_box.h"
 
+#include <QCheckBox>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
 
@@ -16,22 +18,33 @@ namespace {
 static_assert(int{QMessageBox::Critical} == static_cast<int>(Icon::Critical));
 static_assert((QMessageBox::Yes | QMessageBox::No).toInt() == static_cast<int>(Buttons::YesNo));
 
-/// Qt can't wrap paths and limits the width of the box. The middle of a longer path is left out;
-/// the details then show all of it.
-void fitPaths(QMessageBox& box) {
+/// Qt can't wrap paths and limits the width of the box, so the middle of a longer path is left out.
+QString fitting(const QMessageBox& box, const QString& text) {
   constexpr int kMargins = 120;
   const int screen = box.screen()->availableSize().width();
   const int room = (screen <= 1024 ? screen : std::min(screen - 480, 1000)) - kMargins;
-  QStringList lines = box.text().split(QLatin1Char('\n'));
+  QStringList lines = text.split(QLatin1Char('\n'));
   for (QString& line : lines) {
     if (line.contains(QLatin1Char('\\'))) {
       line = box.fontMetrics().elidedText(line, Qt::ElideMiddle, room);
     }
   }
-  const QString fitting = lines.join(QLatin1Char('\n'));
-  if (fitting == box.text()) return;
-  box.setDetailedText(box.text());
-  box.setText(fitting);
+  return lines.join(QLatin1Char('\n'));
+}
+
+/// Sets the texts. If a path doesn't fit, the details show all of it.
+void setTexts(QMessageBox& box, const Message& message) {
+  const QString text = sys::shown(message.text).remove(QLatin1Char('\r'));
+  const QString informative = sys::shown(message.informative);
+  box.setTextFormat(Qt::PlainText);
+  box.setText(fitting(box, text));
+  box.setInformativeText(fitting(box, informative));
+  if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+    label->setTextFormat(Qt::PlainText);
+  }
+  const bool isWhole = box.text() == text && box.informativeText() == informative;
+  const QString both = informative.isEmpty() ? text : text + QLatin1Char('\n') + informative;
+  box.setDetailedText(isWhole || !message.details.empty() ? sys::shown(message.details) : both);
 }
 
 }  // namespace
@@ -40,15 +53,17 @@ Answer MsgBox(const Message& message) {
   Form* owner = Form::active();
   QMessageBox box(owner && owner->isVisible() ? owner : nullptr);
   box.setObjectName(QStringLiteral("MsgBox"));
-  box.setTextFormat(Qt::PlainText);
   box.setWindowTitle(message.title.empty() ? sys::shown(sys::App.Title)
                                            : sys::shown(message.title));
-  box.setText(sys::shown(message.text).remove(QLatin1Char('\r')));
+  setTexts(box, message);
   box.setIcon(static_cast<QMessageBox::Icon>(message.icon));
   box.setStandardButtons(QMessageBox::StandardButtons::fromInt(static_cast<int>(message.buttons)));
   box.setWindowModality(Qt::ApplicationModal);
-  fitPaths(box);
-  return static_cast<Answer>(box.exec());
+  const auto& [caption, isChosen] = message.option;
+  if (!caption.empty()) box.setCheckBox(new QCheckBox(sys::shown(caption)));
+  const auto answer = static_cast<Answer>(box.exec());
+  if (isChosen) *isChosen = box.checkBox()->isChecked();
+  return answer;
 }
 
 }  // namespace forms

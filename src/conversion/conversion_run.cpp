@@ -1,0 +1,63 @@
+#include "conversion/conversion_run.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <utility>
+
+#include "picture/warn.h"
+#include "platform/system/paths.h"
+
+namespace mill {
+
+namespace {
+
+/// "3 of 20,000".
+std::string share(int part, int whole) {
+  const QLocale english(QLocale::English);
+  return (english.toString(part) + QLatin1String(" of ") + english.toString(whole)).toStdString();
+}
+
+}  // namespace
+
+ConversionRun::ConversionRun(std::string directory, int count)
+    : directory_(std::move(directory)), count_(count) {}
+
+void ConversionRun::next(const std::string& name) {
+  ++current_;
+  name_ = name;
+}
+
+std::string ConversionRun::whichPicture() const {
+  return share(current_, count_) + "\n" + sys::join(directory_, name_);
+}
+
+forms::Answer ConversionRun::tell(forms::Message message) {
+  const bool isFailure = message.buttons == forms::Buttons::OK;
+  if (isFailure && isSilent_) {
+    if (passedOver_.empty() || passedOver_.back() != name_) passedOver_.push_back(name_);
+    return forms::Answer::OK;
+  }
+  message.informative = whichPicture();
+  if (!isFailure || ++failures_ == 1 || current_ == count_ || !goesOn_) {
+    return forms::MsgBox(message);
+  }
+  message.informative += "\nGo on with the remaining pictures?";
+  message.buttons = forms::Buttons::YesNo;
+  message.option = {.caption = "Don't ask again in this run", .isChosen = &isSilent_};
+  goesOn_ = forms::MsgBox(message) == forms::Answer::Yes;
+  return forms::Answer::OK;
+}
+
+void ConversionRun::sumUp() const {
+  if (passedOver_.empty()) return;
+  std::string names;
+  for (const std::string& name : passedOver_) names += name + "\n";
+  const auto number = static_cast<int>(passedOver_.size());
+  forms::MsgBox({.text = share(number, count_) + " pictures were passed over.",
+                 .title = kWarning,
+                 .icon = forms::Icon::Critical,
+                 .details = std::move(names)});
+}
+
+}  // namespace mill
