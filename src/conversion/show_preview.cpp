@@ -52,8 +52,9 @@ void ShowPreview() {
 }
 
 void renewPreview() {
+  sys::clearLeftovers(temporaryDirectory());
   state.TempPicturePath = tempPicturePath();
-  const bool isWritten = WriteBitmap(state.TempPicturePath);
+  const bool isWritten = WriteBitmap(state.TempPicturePath, sys::Tail::Drop);
   if (state.PictureFileName.empty()) return;
   if (isWritten) return ShowPreview();
   state.TempPicturePath.clear();

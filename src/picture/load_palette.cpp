@@ -9,6 +9,7 @@
 #include "picture/warn.h"
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
+#include "platform/system/paths.h"
 
 namespace mill {
 
@@ -26,6 +27,7 @@ Fault readFile(const std::string& path, std::vector<std::uint8_t>& read) {
 
 bool writeFile(const std::string& path, const ColourTable& colours) {
   const auto bytes = paletteBytes(state.PaletteHeader, colours);
+  sys::clearLeftovers(std::string(sys::directoryOf(path)));
   sys::OutputFile file(path, sys::Tail::Keep);
   return file.isOpen() && file.write(bytes) && file.commit();
 }

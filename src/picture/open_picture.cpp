@@ -126,6 +126,7 @@ void OpenPicture(const std::string& path, PaletteNames* names) {
     return warn(fault);
   }
   file.reset();
+  state.PictureSourceFile = path;
   state.IsStandardBitmap = state.RecordIsStandard = standard;
   // If the colours couldn't be saved, bmp.pal still holds older ones: don't reload it.
   const bool loadable = !standard || takeColours();
@@ -134,8 +135,7 @@ void OpenPicture(const std::string& path, PaletteNames* names) {
     hooks.fitPreview(state.PictureRecord.biWidth, state.PictureRecord.biHeight);
   }
   state.PictureFileName = sys::fileNameOf(path);
-  state.PictureSourceFile = path;
-  state.TempPicturePath = tempPicturePath();
+  if (!hooks.isConverting()) state.TempPicturePath = tempPicturePath();
   if (!state.AutoPal || !loadable) return;
   const Fault palette = FindPalette(names);
   const bool isBroken = palette != Fault::None && palette != Fault::PaletteMissing;

@@ -107,8 +107,9 @@ TEST(NumberText, IsTheNumberAtTheStartWithinItsRange) {
 
 TEST_F(Editor, OKAdoptsTheFileLoadedOrSavedLast) {
   const auto picture = model::kestrelBitmap({.width = 4, .height = 4, .dataSize = 16});
-  folder.write("in.bmp", picture);
-  OpenPicture(folder.drive("in.bmp"));
+  folder.makeFolder("in");
+  folder.write("in/a.bmp", picture);
+  OpenPicture(folder.drive("in/a.bmp"));
   state.ShowPrev = true;
   const char* missing = "The palette file does not exist.";
   // What is done after a load, the palette that is current after OK, and the message.

@@ -72,4 +72,9 @@ std::string_view fileNameOf(std::string_view path) {
   return path.substr(path.rfind('\\') + 1);
 }
 
+std::string_view directoryOf(std::string_view path) {
+  const std::size_t end = path.rfind('\\');
+  return end == std::string_view::npos ? std::string_view() : path.substr(0, end);
+}
+
 }  // namespace sys

@@ -26,5 +26,7 @@ std::string join(std::string_view directory, std::string_view name);
 
 /// The part after the last backslash of `path`.
 std::string_view fileNameOf(std::string_view path);
+/// The part before the last backslash of `path`.
+std::string_view directoryOf(std::string_view path);
 
 }  // namespace sys

@@ -1,9 +1,12 @@
 #include <algorithm>
+#include <fcntl.h>
 #include <fstream>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
+#include "platform/system/paths.h"
 #include "platform/system/temp_directory.h"
 #include "support/windows.h"
 
@@ -16,13 +19,32 @@ using test::Texts;
 using System = test::WindowTest;
 
 TEST_F(System, TemporaryFilesNeverLieWhereOthersCanWrite) {
-  ::unsetenv("temp");
+  const fs::path own = folder.path("cache/raster-mill");
+  EXPECT_EQ(sys::tempDirectory({"Z:\\", folder.drive("gone")}), folder.path());  // by `temp`
   ::setenv("XDG_CACHE_HOME", folder.path("cache").c_str(), 1);
   ::setenv("TEMP", folder.path().c_str(), 1);
+  EXPECT_EQ(sys::tempDirectory({folder.drive(".")}), sys::drivePath(own.string()));
+  ::unsetenv("temp");
   EXPECT_EQ(sys::tempDirectory(), folder.drive());
   fs::permissions(folder.path(), fs::perms::others_write, fs::perm_options::add);
-  EXPECT_EQ(sys::tempDirectory(), folder.drive("cache/raster-mill"));
+  EXPECT_EQ(sys::tempDirectory(), sys::drivePath(own.string()));
   ::unsetenv("TEMP");
+  for (const bool isLink : {true, false}) {
+    fs::remove_all(own.parent_path());
+    folder.makeFolder("planted");
+    folder.makeFolder("cache/raster-mill-killed");
+    if (isLink) fs::create_directory_symlink(folder.path("planted"), own);
+    if (!isLink) fs::create_directory(own);
+    const int other = ::open(own.c_str(), O_RDONLY);
+    ::flock(other, LOCK_EX);  // another copy of the program is running
+    EXPECT_TRUE(sys::tempDirectory().starts_with(folder.drive("cache/raster-mill-"))) << isLink;
+    EXPECT_EQ(fs::status(folder.path("planted")).permissions() & fs::perms::others_read,
+              fs::perms::others_read);
+    ::close(other);
+  }
+  fs::remove_all(own.parent_path());
+  ::setenv("XDG_CACHE_HOME", "relative", 1);
+  EXPECT_TRUE(sys::tempDirectory().ends_with("\\.cache\\raster-mill"));
 }
 
 TEST_F(System, OnlyNormalFilesAreListedAndRead) {
