@@ -1,20 +1,35 @@
 #include "platform/system/settings.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include "platform/system/text.h"
 
 namespace sys {
 
+namespace {
+
+constexpr int kPatience = 900;  // milliseconds
+
+}  // namespace
+
 Settings::Settings(const std::string& application, const std::string& section)
-    : store_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-                 QLatin1Char('/') + shown(application) + QLatin1String(".ini"),
-             QSettings::IniFormat) {
-  store_.beginGroup(shown(section));
+    : path_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+            QLatin1Char('/') + shown(application) + QLatin1String(".ini")),
+      section_(shown(section) + QLatin1Char('/')) {
+  if (isUsable()) read_.emplace(path_, QSettings::IniFormat);
+}
+
+/// Opening a pipe would hang the program.
+bool Settings::isUsable() const {
+  const QFileInfo file(path_);
+  return !file.exists() || file.isFile();
 }
 
 std::string Settings::text(const char* key, const std::string& fallback) const {
-  const QVariant value = store_.value(shown(key));
+  const QVariant value = read_ ? read_->value(section_ + shown(key)) : QVariant();
   return value.isValid() ? value.toByteArray().toStdString() : fallback;
 }
 
@@ -26,25 +41,33 @@ bool Settings::flag(const char* key, bool fallback) const {
 void Settings::setText(const char* key, const std::string& value) {
   // A path that isn't valid UTF-8 can only be stored as bytes.
   const QByteArray bytes = QByteArray::fromStdString(value);
-  store_.setValue(shown(key), bytes.isValidUtf8() ? QVariant(QString::fromUtf8(bytes)) : bytes);
+  unsaved_[section_ + shown(key)] =
+      bytes.isValidUtf8() ? QVariant(QString::fromUtf8(bytes)) : QVariant(bytes);
 }
 
 void Settings::setFlag(const char* key, bool value) {
   setText(key, value ? "True" : "False");
 }
 
-bool Settings::save() {
-  store_.sync();
-  if (store_.status() != QSettings::FormatError) return store_.status() == QSettings::NoError;
-  // A format error met on reading sticks in the status and hides whether writing failed. Another
-  // object for the same file tries again to write what is still unsaved.
-  QSettings again(store_.fileName(), store_.format());
-  again.sync();
-  return again.status() == QSettings::NoError;
+bool Settings::save() const {
+  if (!isUsable()) return false;
+  QDir().mkpath(QFileInfo(path_).path());
+  // QSettings itself would wait for this lock for half a minute.
+  QLockFile lock(path_ + QLatin1String(".lock"));
+  if (!lock.tryLock(kPatience)) return false;
+  lock.unlock();
+  {
+    QSettings store(path_, QSettings::IniFormat);
+    for (const auto& [key, value] : unsaved_) store.setValue(key, value);
+    store.sync();
+    if (store.status() == QSettings::AccessError) return false;
+  }
+  // A format error met on reading sticks in the status, so only reading again tells of success.
+  return QSettings(path_, QSettings::IniFormat).status() == QSettings::NoError;
 }
 
 std::string Settings::file() const {
-  return bytesOf(store_.fileName());
+  return bytesOf(path_);
 }
 
 }  // namespace sys

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QSettings>
+#include <QVariant>
 
+#include <map>
+#include <optional>
 #include <string>
 
 namespace sys {
@@ -19,14 +22,21 @@ class Settings {
 
   void setText(const char* key, const std::string& value);
   void setFlag(const char* key, bool value);
-  /// Writes what has been set. False if the file couldn't be written.
-  [[nodiscard]] bool save();
+  /// Writes what has been set. False if the file couldn't be written, or another program keeps it
+  /// locked for a second.
+  [[nodiscard]] bool save() const;
 
   /// The path of the file, for a message.
   std::string file() const;
 
  private:
-  QSettings store_;
+  bool isUsable() const;
+
+  const QString path_;
+  const QString section_;
+  std::optional<QSettings> read_;  ///< none if what stands there isn't a file
+  /// Kept back until they are saved: an object that has them would wait for a lock even at its end.
+  std::map<QString, QVariant> unsaved_;
 };
 
 }  // namespace sys
