@@ -5,10 +5,16 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <new>
+#include <span>
 #include <utility>
 #include <vector>
 
+#include "formats/little_endian.h"
+#include "formats/standard_bitmap.h"
 #include "platform/system/file_io.h"
 
 namespace mill {
@@ -43,19 +49,39 @@ QImage stretched(const QImage& image, int width, int height) {
   return result;
 }
 
-/// Null if it can't be read.
-QByteArray readWhole(const std::string& path) {
-  sys::InputFile file(path);
-  if (!file.isOpen()) return {};
-  QByteArray bytes(file.size(), Qt::Uninitialized);
-  const auto size = static_cast<std::size_t>(bytes.size());
-  if (!file.read({reinterpret_cast<std::uint8_t*>(bytes.data()), size})) return {};
-  return bytes;
+/// The headers and colours that a bitmap of this program begins with.
+using Head = std::array<std::uint8_t, kBitmapDataOffset>;
+
+/// Reads the rows into the image, where they take as many bytes as in the file. Qt's own reader
+/// refuses pictures above 268 million pixels. Filled with colour 0 first, since the last row of a
+/// file without padding is shorter.
+QImage readRows(const Head& head, sys::InputFile& file) {
+  const auto width = loadLittleEndian<std::int32_t>(head, 18);
+  const auto height = loadLittleEndian<std::int32_t>(head, 22);
+  if (width <= 0 || height == 0 || height == INT32_MIN) return {};
+  QImage image(width, std::abs(height), QImage::Format_Indexed8);
+  if (image.isNull()) return image;
+  QList<QRgb> colours;
+  for (std::size_t i = 0; i < kColours; ++i) {
+    const ColourEntry colour = loadColour(head, kBitmapHeadSize + i * kColourSize);
+    colours.append(qRgb(colour.Red, colour.Green, colour.Blue));
+  }
+  image.setColorTable(colours);
+  image.fill(0);
+  for (int row = 0; row < image.height(); ++row) {
+    uchar* line = image.scanLine(height > 0 ? image.height() - 1 - row : row);
+    if (!file.read({line, static_cast<std::size_t>(image.bytesPerLine())})) break;
+  }
+  return image;
 }
 
-/// Filled with colour 0 first, since the reader leaves out what a run-length bitmap skips, and what
-/// the last row of a file without padding lacks.
-QImage readImage(QByteArray bytes) {
+/// Filled with colour 0 first, since the reader leaves out what a run-length bitmap skips.
+QImage readCompressed(const Head& head, sys::InputFile& file) {
+  QByteArray bytes(file.size(), Qt::Uninitialized);
+  std::copy(head.begin(), head.end(), bytes.begin());
+  const std::span whole(reinterpret_cast<std::uint8_t*>(bytes.data()),
+                        static_cast<std::size_t>(bytes.size()));
+  if (!file.read(whole.subspan(head.size()))) return {};
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, "BMP");
   QImage image(reader.size(), reader.imageFormat());
@@ -63,12 +89,24 @@ QImage readImage(QByteArray bytes) {
   return reader.read(&image) ? image : QImage();
 }
 
+QImage readImage(const std::string& path) {
+  sys::InputFile file(path);
+  Head head;
+  if (!file.isOpen() || !file.read(head)) return {};
+  const bool isCompressed = loadLittleEndian<std::int32_t>(head, 30) != 0;
+  return isCompressed ? readCompressed(head, file) : readRows(head, file);
+}
+
 }  // namespace
 
 std::shared_ptr<const QImage> loadBitmap(const std::string& path, int width, int height) {
-  QImage image = readImage(readWhole(path));
-  if (!image.isNull() && (width != 0 || height != 0)) image = stretched(image, width, height);
-  return image.isNull() ? nullptr : std::make_shared<QImage>(std::move(image));
+  try {
+    QImage image = readImage(path);
+    if (!image.isNull() && (width != 0 || height != 0)) image = stretched(image, width, height);
+    return image.isNull() ? nullptr : std::make_shared<QImage>(std::move(image));
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
 }
 
 }  // namespace mill
