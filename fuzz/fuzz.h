@@ -8,8 +8,12 @@
 #include <vector>
 
 #include "formats/byte_stream.h"
+#include "support/format_model.h"
 
 namespace fuzz {
+
+/// A file of a few bytes may ask for a large picture; writing that finds nothing more.
+inline constexpr std::int64_t kEnough = 1 << 21;
 
 /// Aborts if an invariant doesn't hold, so that libFuzzer keeps the input.
 inline void require(bool kept) {

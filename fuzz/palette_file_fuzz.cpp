@@ -5,19 +5,18 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mill;
-  const std::string untouched = "untouched";
-  std::string head = untouched;
-  ColourTable colours{};
+  std::string head = "untouched";
+  ColourTable colours = model::someColours(1);
   const Fault fault = readPalette({data, size}, head, colours);
-  fuzz::require((fault == Fault::None) == (size >= kPaletteFileSize));
-  if (size < kPaletteHeadSize) {
-    fuzz::require(head == untouched);
+  fuzz::require((fault == Fault::None) == (size >= 1048));
+  model::Bytes expected(data, data + std::min<std::size_t>(size, 1048));
+  if (size < 24) {
+    fuzz::require(head == "untouched" && colours == model::someColours(1));
     return 0;
   }
-
-  std::vector<std::uint8_t> expected(data, data + std::min<std::size_t>(size, kPaletteFileSize));
   expected.resize(expected.size() - expected.size() % 4);
-  expected.resize(kPaletteFileSize);
+  expected.resize(1048);
   fuzz::require(paletteBytes(head, colours) == expected);
+  fuzz::require(model::paletteFile(head, colours) == expected);
   return 0;
 }

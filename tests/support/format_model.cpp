@@ -1,6 +1,7 @@
 #include "support/format_model.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace model {
 
@@ -25,8 +26,9 @@ void putBlueFirst(Bytes& file, const Colours& colours) {
 }
 
 int numberAt(const Bytes& file, std::size_t at) {
-  return static_cast<int>(file[at] | file[at + 1] << 8 | file[at + 2] << 16 |
-                          static_cast<unsigned>(file[at + 3]) << 24);
+  std::uint32_t number = 0;
+  for (std::size_t i = 4; i-- > 0;) number = number << 8 | file[at + i];
+  return static_cast<int>(number);
 }
 
 /// size / height - width in whole numbers, halves to the even neighbour.
@@ -87,6 +89,64 @@ Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours) {
     }
   }
   return file;
+}
+
+std::string refusal(const Bytes& file) {
+  const std::string kind(file.begin(), file.begin() + std::min<std::ptrdiff_t>(2, ssize(file)));
+  const auto size = static_cast<std::int64_t>(file.size());
+  if (kind == "BM" || kind == "bm") {
+    const std::string shape = "Only complete bitmaps with a table of 256 colours can be converted.";
+    if (size < 1078 || numberAt(file, 10) != 1078 || numberAt(file, 14) != 40) return shape;
+    const std::int64_t width = numberAt(file, 18), height = numberAt(file, 22);
+    const std::int64_t imageSize = numberAt(file, 34);
+    if (file[28] != 8 || file[29] != 0 || imageSize < 0 || 1078 + imageSize > size) return shape;
+    const bool isTooLarge = numberAt(file, 30) == 0 && std::abs(width * height) > imageSize;
+    return isTooLarge ? shape : "";
+  }
+  if (kind != "KS" && kind != "ks") return "This file is not a valid bitmap file.";
+  const std::string damaged = "This picture file is damaged.";
+  if (size < 68) return damaged;
+  const std::int64_t width = numberAt(file, 20), height = numberAt(file, 24);
+  const std::int64_t dataSize = numberAt(file, 40);
+  if (width < 0 || width > 32767 || height < 0 || height > 32768) return damaged;
+  if (dataSize < 0 || dataSize + 68 > size || (height == 0 && dataSize > 0)) return damaged;
+  if (height > 0) {
+    const int difference =
+        roundedDifference(numberAt(file, 20), numberAt(file, 24), numberAt(file, 40));
+    if (difference > 32767 || (width > 0 && width + difference <= 0)) return damaged;
+  }
+  const bool hasBytes = file[28] == 8 && file[29] == 0;
+  return hasBytes ? "" : "Only pictures of 8 bits per pixel can be converted.";
+}
+
+std::vector<std::pair<std::string, Bytes>> brokenPictures() {
+  const Bytes kestrel = kestrelBitmap({.width = 4, .height = 3, .dataSize = 12});
+  const Bytes standard = convertedBitmap(kestrel, someColours(1));
+  // The standard bitmap with other bytes at one place.
+  const auto changed = [&](std::ptrdiff_t at, const Bytes& bytes) {
+    Bytes file = standard;
+    std::copy(bytes.begin(), bytes.end(), file.begin() + at);
+    return file;
+  };
+  return {
+      {"one byte", {'K'}},
+      {"large and small letter", kestrelBitmap({.width = 1, .height = 1, .magic = "Ks"})},
+      {"last byte missing", Bytes(kestrel.begin(), kestrel.end() - 1)},
+      {"negative width", kestrelBitmap({.width = -2, .height = 2, .dataSize = 4})},
+      {"negative height, 24 bits", kestrelBitmap({.height = -2, .dataSize = 4, .depth = 24})},
+      {"too wide", kestrelBitmap({.width = 32768, .height = 1, .dataSize = 32768})},
+      {"too high", kestrelBitmap({.width = 1, .height = 32769, .dataSize = 32769})},
+      {"difference of 32768", kestrelBitmap({.width = 1, .height = 1, .dataSize = 32769})},
+      {"rows without length", kestrelBitmap({.width = 32767, .height = 32768, .dataSize = 0})},
+      {"24 bits", kestrelBitmap({.width = 2, .height = 2, .dataSize = 4, .depth = 24})},
+      {"standard, 24 bits", changed(28, {24})},
+      {"longer header", changed(14, {124})},
+      {"shorter table", changed(10, {118, 0})},
+      {"standard, last pixel missing", Bytes(standard.begin(), standard.end() - 1)},
+      {"pixel size not filled in", changed(34, {0})},
+      {"more pixels than bytes, top-down", changed(22, {0xFC, 0xFF, 0xFF, 0xFF})},
+      {"smallest width and height", changed(18, {0, 0, 0, 0x80, 0, 0, 0, 0x80})},
+  };
 }
 
 Bytes paletteFile(const std::string& head, const Colours& colours) {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "formats/picture_record.h"
@@ -33,6 +34,11 @@ struct Kestrel {
 Bytes kestrelBitmap(const Kestrel& picture);
 /// What the file `kestrel` is converted to with these colours.
 Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours);
+/// The message that a picture file is refused with; empty if it is opened.
+std::string refusal(const Bytes& file);
+
+/// Broken files and what is wrong with them.
+std::vector<std::pair<std::string, Bytes>> brokenPictures();
 
 Bytes paletteFile(const std::string& head, const Colours& colours);
 

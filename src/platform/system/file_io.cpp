@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
@@ -85,7 +84,7 @@ bool InputFile::fillBuffer() {
 
 std::size_t InputFile::takeBuffered(std::span<std::uint8_t> bytes) {
   const std::size_t count = std::min(bytes.size(), buffered_.size());
-  std::memcpy(bytes.data(), buffered_.data(), count);
+  std::copy_n(buffered_.begin(), count, bytes.begin());
   buffered_ = buffered_.subspan(count);
   return count;
 }
