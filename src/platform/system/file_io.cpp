@@ -113,10 +113,10 @@ OutputFile::~OutputFile() {
 
 /// False if what stands under the name can't be replaced.
 bool OutputFile::examineOld() {
-  // A failure but for a missing file comes up again when the hidden file is created.
-  if (::lstat(path_.c_str(), &old_) != 0) return true;
+  if (::lstat(path_.c_str(), &old_) != 0) return errno == ENOENT;
   if (S_ISLNK(old_.st_mode)) {
-    if (::stat(path_.c_str(), &old_) != 0) return true;
+    // A link that leads nowhere holds nothing.
+    if (::stat(path_.c_str(), &old_) != 0) return errno == ENOENT || errno == ELOOP;
   } else if (::faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0) {
     return false;
   }
@@ -177,7 +177,8 @@ bool OutputFile::commit() {
     abandon();
     return false;
   }
-  const bool isClosed = ::close(std::exchange(handle_, -1)) == 0;
+  // An interrupted close has closed the file all the same.
+  const bool isClosed = ::close(std::exchange(handle_, -1)) == 0 || errno == EINTR;
   if (isClosed && ::rename(hidden_.c_str(), path_.c_str()) == 0) return true;
   ::unlink(hidden_.c_str());
   return false;
