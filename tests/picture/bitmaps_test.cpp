@@ -11,6 +11,8 @@
 namespace mill::test {
 namespace {
 
+namespace fs = std::filesystem;
+
 using model::convertedBitmap;
 using model::kestrelBitmap;
 using model::someColours;
@@ -149,24 +151,37 @@ TEST_F(BitmapsTest, AFileThatCannotBeReadToItsEndChangesNothing) {
   EXPECT_EQ(messages.texts(), Texts{kUnreadable});
 }
 
-TEST_F(BitmapsTest, AnythingThatCannotBeWrittenIsNamedAndKept) {
+TEST_F(BitmapsTest, AFileIsReplacedUnderItsNameAloneOrNamedInAMessage) {
+  folder.write("other.bmp", Bytes(9, 0xEE));
+  folder.write("new.bmp", Bytes(9, 0xEE));
+  fs::permissions(folder.path("new.bmp"), fs::perms(0604));
+  fs::create_hard_link(folder.path("other.bmp"), folder.path("hard.bmp"));
+  fs::create_symlink("other.bmp", folder.path("link.bmp"));
+  sys::OutputFile busy(folder.drive("busy.bmp"), sys::Tail::Keep);
+  sys::clearLeftovers(folder.drive());  // not those in use
+  EXPECT_TRUE(busy.commit());
+  for (const char* name : {"new.bmp", "hard.bmp", "link.bmp", "busy.bmp"}) {
+    EXPECT_TRUE(WriteBitmap(folder.drive(name)));
+    EXPECT_EQ(readFile(folder.path(name)), converted);
+    EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(folder.path(name))));
+  }
+  EXPECT_EQ(readFile(folder.path("other.bmp")), Bytes(9, 0xEE));
+  EXPECT_EQ(fs::status(folder.path("new.bmp")).permissions(), fs::perms(0604));
+
   ::mkfifo(folder.path("pipe").c_str(), 0600);
-  std::filesystem::create_symlink("open.bmp", folder.path("link"));
-  folder.write("old.bmp", Bytes(100, 0xEE));
-  const Limit fullDisk(RLIMIT_FSIZE, 1080);
-  for (const char* name : {"old.bmp", "new.bmp", "gone/new.bmp", "pipe"}) {
+  folder.makeFolder("folder");
+  for (const char* name : {"gone/new.bmp", "pipe", "folder"}) {
     EXPECT_FALSE(WriteBitmap(folder.drive(name)));
     messages.expectLast(1, "The file can't be written.\n" + folder.drive(name), "Warning!",
                         QMessageBox::Critical);
   }
-  for (const char* name : {"open.bmp", "link"}) {
+  fs::create_symlink("open.bmp", folder.path("source"));
+  for (const char* name : {"open.bmp", "source"}) {
     EXPECT_FALSE(WriteBitmap(folder.drive(name)));
     messages.expectLast(1, "The source and destination directories must be different.", "Warning!",
                         QMessageBox::Information);
   }
   EXPECT_EQ(readFile(folder.path("open.bmp")), kestrel);
-  EXPECT_EQ(readFile(folder.path("old.bmp")), Bytes(100, 0xEE));
-  EXPECT_FALSE(folder.exists("new.bmp"));
 }
 
 }  // namespace
