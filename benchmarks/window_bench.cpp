@@ -10,6 +10,7 @@
 #include "harness.h"
 #include "platform/forms/desktop.h"
 #include "windows.h"
+#include "writes.h"
 
 namespace {
 
@@ -44,6 +45,8 @@ int main(int argc, char** argv) {
       "ratio\n"
       "with the palette search over 50 folders and the swatch window\n");
   mill::bench::runBatches(argv[1]);
+  std::printf("\nWriting files\n");
+  mill::bench::runWrites(std::filesystem::path(argv[1]) / "written");
   std::printf("\nWaiting for windows\n");
   mill::bench::runWindows(argv[1]);
   return 0;

@@ -9,7 +9,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -129,7 +128,6 @@ void expectSwatches(const char* form, const model::Colours& colours) {
 }
 
 Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
-  std::signal(SIGXFSZ, SIG_IGN);
   ::getrlimit(resource, &before_);
   const rlimit limit{value, before_.rlim_max};
   ::setrlimit(resource, &limit);

@@ -27,6 +27,8 @@ using Texts = std::vector<std::string>;
 /// A temporary folder, removed with the object.
 class TempFolder {
  public:
+  ~TempFolder() { std::filesystem::remove_all(path()); }  // Qt can't remove names of any bytes
+
   std::filesystem::path path(const std::string& name = {}) const {
     const std::filesystem::path root = root_.path().toStdString();
     return name.empty() ? root : root / name;

@@ -4,6 +4,7 @@
 #include <QImageReader>
 #include <QProxyStyle>
 
+#include <csignal>
 #include <malloc.h>
 
 #include "platform/system/application.h"
@@ -55,6 +56,8 @@ Desktop::Desktop(char* programName)
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new CompactStyle);
   QApplication::setFont(defaultFont());
+  // A file that meets the limit for file sizes fails to be written, like on a full disk.
+  std::signal(SIGXFSZ, SIG_IGN);
   // Memory goes from one picture to the next; giving it back and asking for it again costs more
   // than converting a picture.
   ::mallopt(M_MMAP_THRESHOLD, 1 << 25);

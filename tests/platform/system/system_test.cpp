@@ -79,6 +79,13 @@ TEST_F(System, SettingsSavedOverADamagedFileAreThereInTheNextRun) {
     unwritable->setFlag("Flag", true);
     EXPECT_FALSE(unwritable->save()) << unwritable->file();
   }
+  // Another program holds the file, perhaps on another machine; or it is none.
+  const std::string held = sys::Settings("Held", "Settings").file();
+  std::ofstream(held + ".lock") << "1\nprogram\nhost\n";
+  EXPECT_FALSE(sys::Settings("Held", "Settings").save());
+  ::mkfifo(sys::Settings("Pipe", "Settings").file().c_str(), 0600);
+  EXPECT_EQ(sys::Settings("Pipe", "Settings").text("Source", "other"), "other");
+  EXPECT_FALSE(sys::Settings("Pipe", "Settings").save());
 }
 
 }  // namespace
