@@ -40,13 +40,20 @@ int main(int argc, char** argv) {
     copySamples(samples, ".bmp", corpus / name);
     save(corpus / name / "kestrel", kestrel);
     save(corpus / name / "standard", standard);
+    // Around the difference of 10 up to which bytes are padding of the rows.
+    for (const int dataSize : {75, 77, 78, 80}) {
+      save(corpus / name / std::to_string(dataSize),
+           model::kestrelBitmap({.width = 5, .height = 5, .dataSize = dataSize}));
+    }
     for (const auto& [what, bytes] : model::brokenPictures()) save(corpus / name / what, bytes);
   }
   copySamples(samples, ".pal", corpus / "palette_file_fuzz");
   copySamples(samples, ".ksl", corpus / "palette_list_fuzz");
   const model::Colours colours = model::someColours(2);
   save(corpus / "palette_list_fuzz" / "two", model::paletteList({{colours, 12}, {colours, -7}}));
-  for (const std::string text : {"Z:\\home\\a b\\x.bmp", "C:/Game", "/tmp/\xFC.bmp", "-12.5e3"}) {
+  const std::string zeros(400, '0');
+  for (const std::string& text : {std::string("Z:\\home\\a b\\x.bmp"), std::string("/tmp/\xFC.bmp"),
+                                  std::string("-12.5e3"), "0." + zeros + "1", "1" + zeros}) {
     save(corpus / "texts_fuzz" / std::to_string(text.size()), {text.begin(), text.end()});
   }
 }

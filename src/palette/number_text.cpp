@@ -26,8 +26,7 @@ int numberOf(std::string_view text, int lowest, int highest) {
     const auto end = text.data() + text.size();
     const auto result = std::from_chars(text.data(), end, number, std::chars_format::fixed);
     // Out of range means too large or too close to 0; the digits before the point tell which.
-    const auto whole = text.substr(0, text.find('.'));
-    const bool large = whole.find_first_of("123456789") < whole.find_first_not_of("0123456789");
+    const bool large = text.find_first_of("123456789") < text.find_first_not_of("0123456789");
     if (result.ec == std::errc::result_out_of_range) number = large ? HUGE_VAL : 0;
   }
   const double whole = std::nearbyint(negative ? -number : number);
