@@ -53,12 +53,12 @@ void ShowPreview() {
 
 void renewPreview() {
   sys::clearLeftovers(temporaryDirectory());
-  state.TempPicturePath = tempPicturePath();
-  const bool isWritten = WriteBitmap(state.TempPicturePath, sys::Tail::Drop);
+  const std::string path = tempPicturePath();
+  state.TempPicturePath.clear();  // nothing to show while a message is open
+  const bool isWritten = WriteBitmap(path, sys::Tail::Drop);
+  if (isWritten) state.TempPicturePath = path;
   if (state.PictureFileName.empty()) return;
-  if (isWritten) return ShowPreview();
-  state.TempPicturePath.clear();
-  clearPreview();
+  isWritten ? ShowPreview() : clearPreview();
 }
 
 }  // namespace mill

@@ -40,30 +40,29 @@ using Windows = MainWindowTest;
 TEST_F(Windows, ShowEveryControlWholeAndByTheTabKey) {
   start();
   const char* const site = "Or vist my Ironveil website at: " MILL_AUTHOR_SITE;
-  // Client size, pixels from its corner through all that the Tab key reaches, and one caption.
-  const std::tuple<forms::Form*, const char*, QSize, int, const char*> windows[] = {
-      {&*frmMain, "Raster Mill", {569, 321}, 3134, "Sh&ow Preview"},
-      {&*frmConvert, "Convert Bitmap", {265, 201}, 328, "Conversion Progess:"},
-      {&*frmPreviewToolbar, "Preview", {305, 233}, 0, ""},
-      {&*frmPalToolbar, "Palette (base.pal)", {128, 129}, 128, ""},
-      {&*frmBrowse, "Browse for Source Directory", {255, 191}, 437, "OK"},
-      {&*frmFileBrowse, "Browse for File", {402, 193}, 587, "OK"},
-      {&*frmSave, "Save File", {399, 233}, 911, "Filename:"},
-      {&*frmPalSelect, "Palette Selection", {489, 177}, 976, "Default"},
-      {&*frmColour, " View/Edit Palette", {361, 377}, 1340, "Orginal"},
-      {&*frmPalExtract, "Palette Extractor", {329, 433}, 1488, "Add KSL Name"},
-      {&*frmInfo, "Picture Information", {210, 177}, 256, "OK"},
-      {&*frmOptions, "Options", {416, 206}, 1708, "Default Soruce directory:"},
-      {&*frmAbout, "About Raster Mill", {449, 257}, 632, site},
-      {&*frmSplash, "", {492, 283}, 687, "CompanyProduct"}};
-  for (const auto& [form, title, client, way, odd] : windows) {
+  // The client size and one caption.
+  const std::tuple<forms::Form*, const char*, QSize, const char*> windows[] = {
+      {&*frmMain, "Raster Mill", {569, 321}, "Sh&ow Preview"},
+      {&*frmConvert, "Convert Bitmap", {265, 201}, "Conversion Progess:"},
+      {&*frmPreviewToolbar, "Preview", {305, 233}, ""},
+      {&*frmPalToolbar, "Palette (base.pal)", {128, 129}, ""},
+      {&*frmBrowse, "Browse for Source Directory", {255, 191}, "OK"},
+      {&*frmFileBrowse, "Browse for File", {402, 193}, "OK"},
+      {&*frmSave, "Save File", {399, 233}, "Filename:"},
+      {&*frmPalSelect, "Palette Selection", {489, 177}, "Default"},
+      {&*frmColour, " View/Edit Palette", {361, 377}, "Orginal"},
+      {&*frmPalExtract, "Palette Extractor", {329, 433}, "Add KSL Name"},
+      {&*frmInfo, "Picture Information", {210, 177}, "OK"},
+      {&*frmOptions, "Options", {416, 206}, "Default Soruce directory:"},
+      {&*frmAbout, "About Raster Mill", {449, 257}, site},
+      {&*frmSplash, "", {492, 283}, "CompanyProduct"}};
+  for (const auto& [form, title, client, odd] : windows) {
     form->show();
     EXPECT_EQ(form->windowTitle(), title);
     EXPECT_EQ(form->client()->size(), client) << title;
     EXPECT_EQ(form->minimumSize() == form->maximumSize(), form != &*frmPreviewToolbar) << title;
     std::set<QString> captions, buttons;
     QPoint at;
-    int covered = 0;
     for (auto* control : form->client()->findChildren<QWidget*>(QRegularExpression("^(?!qt_)."))) {
       const QWidget* parent = control->parentWidget();
       SCOPED_TRACE(title + control->objectName().toStdString());
@@ -85,9 +84,8 @@ TEST_F(Windows, ShowEveryControlWholeAndByTheTabKey) {
       EXPECT_EQ(form->focusWidget(), control);
       const QPoint centre = control->mapTo(form->client(), control->rect().center());
       EXPECT_TRUE(centre.x() > at.x() || centre.y() > at.y()) << "a step back";
-      covered += (centre - std::exchange(at, centre)).manhattanLength();
+      at = centre;
     }
-    EXPECT_EQ(covered, way) << title;
     EXPECT_EQ(captions.count(odd), 1) << odd;
   }
 }

@@ -3,9 +3,6 @@
 #include <QTableView>
 #include <QTest>
 
-#include <algorithm>
-
-#include "palette/number_text.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "support/windows.h"
@@ -88,21 +85,6 @@ TEST_F(Editor, TypedNumbersReachTheSavedFile) {
   use("cmdSave", "inverted.pal");
   EXPECT_EQ(test::readFile(folder.path("inverted.pal")), paletteFile(kHead, changed));
   EXPECT_EQ(state.PaletteTable, own);
-}
-
-TEST(NumberText, IsTheNumberAtTheStartWithinItsRange) {
-  const std::string zeros(400, '0'), nines(400, '9');
-  const std::pair<int, std::vector<std::string>> cases[] = {
-      {0, {"", " ", "-", ".", "+-7", "0.5", "0x10", "inf", "-infinity", "e5", "0." + zeros + "1"}},
-      {2, {"1.5", "2.5", "2,9", "2e2", "2 34", " 2", "+2", "2.", zeros + "2"}},
-      {1000, {nines, "1001"}},
-      {-1000, {"-" + nines}}};
-  for (const auto& [number, texts] : cases) {
-    for (const std::string& text : texts) {
-      EXPECT_EQ(numberOf(text, -1000, 1000), number) << text;
-      EXPECT_EQ(numberOf(text, 0, 255), std::clamp(number, 0, 255)) << text;
-    }
-  }
 }
 
 TEST_F(Editor, OKAdoptsTheFileLoadedOrSavedLast) {

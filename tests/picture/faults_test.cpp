@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include "picture/hooks.h"
-#include "picture/load_palette.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "picture/write_bitmap.h"
@@ -174,19 +173,6 @@ TEST_F(FaultsTest, APictureIsOpenedWholeOrNotAtAll) {
     expectOut(model::convertedBitmap(isNew ? second : readFile(folder.path("in/first.bmp")), {}));
   };
   expectSafe([&] { OpenPicture(folder.drive("in/first.bmp")); }, routine, check);
-}
-
-TEST_F(FaultsTest, APaletteIsTheOldOneOrTheNewOne) {
-  const Bytes palette = model::paletteFile({}, model::someColours(4));
-  const auto routine = [&] {
-    return writePaletteFile(folder.drive("out/1.pal"), model::someColours(4));
-  };
-  const auto check = [&](bool isNew) {
-    const bool isThere = std::filesystem::exists(folder.path("out/1.pal"));
-    EXPECT_TRUE(isThere || !isNew);
-    expectOut(isThere ? palette : Bytes());
-  };
-  expectSafe([&] { std::filesystem::remove(folder.path("out/1.pal")); }, routine, check);
 }
 
 }  // namespace

@@ -119,15 +119,14 @@ std::string refusal(const Bytes& file) {
   return hasBytes ? "" : "Only pictures of 8 bits per pixel can be converted.";
 }
 
+Bytes changed(Bytes file, std::ptrdiff_t at, const Bytes& bytes) {
+  std::copy(bytes.begin(), bytes.end(), file.begin() + at);
+  return file;
+}
+
 std::vector<std::pair<std::string, Bytes>> brokenPictures() {
   const Bytes kestrel = kestrelBitmap({.width = 4, .height = 3, .dataSize = 12});
   const Bytes standard = convertedBitmap(kestrel, someColours(1));
-  // The standard bitmap with other bytes at one place.
-  const auto changed = [&](std::ptrdiff_t at, const Bytes& bytes) {
-    Bytes file = standard;
-    std::copy(bytes.begin(), bytes.end(), file.begin() + at);
-    return file;
-  };
   return {
       {"one byte", {'K'}},
       {"large and small letter", kestrelBitmap({.width = 1, .height = 1, .magic = "Ks"})},
@@ -139,13 +138,13 @@ std::vector<std::pair<std::string, Bytes>> brokenPictures() {
       {"difference of 32768", kestrelBitmap({.width = 1, .height = 1, .dataSize = 32769})},
       {"rows without length", kestrelBitmap({.width = 32767, .height = 32768, .dataSize = 0})},
       {"24 bits", kestrelBitmap({.width = 2, .height = 2, .dataSize = 4, .depth = 24})},
-      {"standard, 24 bits", changed(28, {24})},
-      {"longer header", changed(14, {124})},
-      {"shorter table", changed(10, {118, 0})},
+      {"standard, 24 bits", changed(standard, 28, {24})},
+      {"longer header", changed(standard, 14, {124})},
+      {"shorter table", changed(standard, 10, {118, 0})},
       {"standard, last pixel missing", Bytes(standard.begin(), standard.end() - 1)},
-      {"pixel size not filled in", changed(34, {0})},
-      {"more pixels than bytes, top-down", changed(22, {0xFC, 0xFF, 0xFF, 0xFF})},
-      {"smallest width and height", changed(18, {0, 0, 0, 0x80, 0, 0, 0, 0x80})},
+      {"pixel size not filled in", changed(standard, 34, {0})},
+      {"more pixels than bytes, top-down", changed(standard, 22, {0xFC, 0xFF, 0xFF, 0xFF})},
+      {"smallest width and height", changed(standard, 18, {0, 0, 0, 0x80, 0, 0, 0, 0x80})},
   };
 }
 

@@ -37,6 +37,8 @@ Bytes convertedBitmap(const Bytes& kestrel, const Colours& colours);
 /// The message that a picture file is refused with; empty if it is opened.
 std::string refusal(const Bytes& file);
 
+/// A file with other bytes at one place.
+Bytes changed(Bytes file, std::ptrdiff_t at, const Bytes& bytes);
 /// Broken files and what is wrong with them.
 std::vector<std::pair<std::string, Bytes>> brokenPictures();
 

@@ -127,12 +127,6 @@ void expectSwatches(const char* form, const model::Colours& colours) {
   }
 }
 
-Limit::Limit(__rlimit_resource resource, rlim_t value) : resource_(resource) {
-  ::getrlimit(resource, &before_);
-  const rlimit limit{value, before_.rlim_max};
-  ::setrlimit(resource, &limit);
-}
-
 void settle() {
   for (int i = 0; i < 3; ++i) {
     QCoreApplication::processEvents();

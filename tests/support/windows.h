@@ -12,7 +12,6 @@
 #include <filesystem>
 #include <functional>
 #include <string>
-#include <sys/resource.h>
 #include <vector>
 
 #include "platform/system/application.h"
@@ -108,18 +107,6 @@ QImage painted(QWidget* widget);
 QImage boxWith(Bytes bitmap, QSize box, int scale = 1);
 /// The swatches of a form show these colours.
 void expectSwatches(const char* form, const model::Colours& colours);
-
-/// A limit of the process, as long as it lives: with RLIMIT_NOFILE 0 no file can be opened, with
-/// RLIMIT_FSIZE the disk is full once a file has that size.
-class Limit {
- public:
-  Limit(__rlimit_resource resource, rlim_t value);
-  ~Limit() { ::setrlimit(resource_, &before_); }
-
- private:
-  __rlimit_resource resource_;
-  rlimit before_{};
-};
 
 /// Unloads all forms and empties the shared state before and after each test. Temporary files go
 /// to the test's own folder.

@@ -7,7 +7,6 @@
 #include "platform/forms/dir_tree.h"
 #include "platform/forms/elided_label.h"
 #include "platform/forms/file_list.h"
-#include "platform/forms/progress_bar.h"
 #include "platform/forms/swatches.h"
 #include "support/windows.h"
 
@@ -136,17 +135,6 @@ TEST_F(Controls, TreeShowsNewDirectoriesAndOpensNoneByTheStarKey) {
   for (const auto key : {Qt::Key_Down, Qt::Key_Asterisk}) QTest::keyClick(&tree, key);
   EXPECT_EQ(tree.Path(), folder.drive("new"));
   EXPECT_FALSE(tree.isExpanded(tree.currentIndex()));
-}
-
-TEST_F(Controls, BarIsPaintedNowAndThenAndAtTheEnd) {
-  forms::ProgressBar bar(nullptr);
-  int paintings = 0;
-  QObject::connect(&bar, &QProgressBar::valueChanged, [&] { ++paintings; });
-  for (int value = 0; value < 4000; ++value) bar.setValue(value % 200);
-  EXPECT_EQ(bar.Value(), 100);
-  EXPECT_TRUE(1 <= paintings && paintings <= 100);  // however slow the machine
-  settle();
-  EXPECT_EQ(bar.value(), 100);
 }
 
 TEST_F(Controls, SwatchesMarkTheCurrentColourAndAreChosenByKeyboard) {
