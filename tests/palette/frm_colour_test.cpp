@@ -57,10 +57,8 @@ class Editor : public test::WindowTest {
 };
 
 TEST_F(Editor, TypedNumbersReachTheSavedFile) {
-  for (const auto& [text, index] : {std::pair("9", "9 "), {"007", "7 "}, {"256", "255 "}}) {
-    test::type(kForm, "txtIndex", text);
-    EXPECT_TRUE(numbers().starts_with(index)) << numbers();
-  }
+  test::type(kForm, "txtIndex", "0256");
+  EXPECT_TRUE(numbers().starts_with("255 ")) << numbers();
   Colours changed = own;
   for (const auto& [text, number] : {std::pair("12abc", 12), {"300", 255}, {"7", 7}}) {
     click(9);

@@ -42,6 +42,8 @@ TEST_F(Chooser, OnlyAButtonDecidesAndAPreviewIsNoChoice) {
       {"a.bmp", 1, "cmdOK", "pal/sub/25.pal", 21}, {"b.bmp", 0, "cmdDefault", "pal/base.pal", 3}};
   addPicture("a.bmp");
   const test::Bytes picture = addPicture("b.bmp");
+  folder.write("in/c.bmp", model::kestrelBitmap({.paletteIndex = 7}));
+  folder.write("pal/7.pal", test::Bytes(30));
   start();
   for (const auto& [name, chosen, button, file, seed] : cases) {
     select({name});
@@ -65,6 +67,10 @@ TEST_F(Chooser, OnlyAButtonDecidesAndAPreviewIsNoChoice) {
     EXPECT_EQ(state.CurrentPaletteFile, folder.drive(file));
     expectPreview(picture, seed);
   }
+  select({"c.bmp"});  // whose palette ends early
+  test::pressAndThen("frmMain", "cmdConvert", [] { press("frmConvert", "cmdYes"); });
+  EXPECT_EQ(messages.texts(), test::Texts{"The palette file is incomplete."});
+  EXPECT_FALSE(folder.exists("out/c.bmp"));
 }
 
 }  // namespace

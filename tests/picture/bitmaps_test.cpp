@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <set>
 #include <sys/stat.h>
 
 #include "picture/hooks.h"
@@ -114,11 +113,9 @@ TEST_F(BitmapsTest, AStandardBitmapIsOpenedAfterYesAndWrittenAsItWas) {
 }
 
 TEST_F(BitmapsTest, ARefusedFileGetsOneMessageAndChangesNothing) {
-  std::set<std::string> texts;
   for (const auto& [name, bytes] : model::brokenPictures()) {
     SCOPED_TRACE(name);
     const std::string text = model::refusal(bytes);
-    texts.insert(text);
     const bool asks = bytes[0] == 'B';
     state.IsStandardBitmap = true;
     open(name, bytes, asks);
@@ -126,7 +123,6 @@ TEST_F(BitmapsTest, ARefusedFileGetsOneMessageAndChangesNothing) {
     expectOpen("open.bmp", converted);
     EXPECT_EQ(state.IsStandardBitmap, text != "This file is not a valid bitmap file.");
   }
-  EXPECT_EQ(texts.size(), 4u);
   OpenPicture(folder.drive("gone.bmp"));
   EXPECT_EQ(messages.texts(), Texts{"The file you seleted to be opened does not exist."});
 }
