@@ -68,7 +68,7 @@ void ConvertForm::enableButtons(bool enabled) {
 }
 
 void ConvertForm::convertSelection() {
-  sys::clearLeftovers(destinationDirectory());
+  const sys::DirectoryHold hold(destinationDirectory());
   run_.emplace(sourceDirectory(), state.SelectedCount);
   PaletteNames names;
   for (std::int32_t i = 0; i < state.SelectedCount && run_->goesOn(); ++i) {

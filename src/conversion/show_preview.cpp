@@ -52,7 +52,7 @@ void ShowPreview() {
 }
 
 void renewPreview() {
-  sys::clearLeftovers(temporaryDirectory());
+  const sys::DirectoryHold hold(temporaryDirectory());
   const std::string path = tempPicturePath();
   state.TempPicturePath.clear();  // nothing to show while a message is open
   const bool isWritten = WriteBitmap(path, sys::Tail::Drop);

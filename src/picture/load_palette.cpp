@@ -27,7 +27,7 @@ Fault readFile(const std::string& path, std::vector<std::uint8_t>& read) {
 
 bool writeFile(const std::string& path, const ColourTable& colours) {
   const auto bytes = paletteBytes(state.PaletteHeader, colours);
-  sys::clearLeftovers(std::string(sys::directoryOf(path)));
+  const sys::DirectoryHold hold(std::string(sys::directoryOf(path)));
   sys::OutputFile file(path, sys::Tail::Keep);
   return file.isOpen() && file.write(bytes) && file.commit();
 }

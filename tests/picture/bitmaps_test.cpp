@@ -133,8 +133,9 @@ TEST_F(BitmapsTest, AFileIsReplacedUnderItsNameAloneOrNamedInAMessage) {
   fs::permissions(folder.path("new.bmp"), fs::perms(0604));
   fs::create_hard_link(folder.path("other.bmp"), folder.path("hard.bmp"));
   fs::create_symlink("other.bmp", folder.path("link.bmp"));
+  const sys::DirectoryHold hold(folder.drive());
   sys::OutputFile busy(folder.drive("busy.bmp"), sys::Tail::Keep);
-  sys::clearLeftovers(folder.drive());  // not those in use
+  const sys::DirectoryHold another(folder.drive());  // doesn't clear what is in use
   EXPECT_TRUE(busy.commit());
   for (const char* name : {"new.bmp", "hard.bmp", "link.bmp", "busy.bmp"}) {
     EXPECT_TRUE(WriteBitmap(folder.drive(name)));

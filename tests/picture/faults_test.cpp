@@ -111,7 +111,7 @@ class FaultsTest : public WindowTest {
 
   /// The only file in "out" holds these bytes. Only a kill may leave a hidden one beside it.
   void expectOut(const Bytes& bytes) {
-    if (isKilled) sys::clearLeftovers(folder.drive("out"));
+    if (isKilled) sys::DirectoryHold(folder.drive("out"));  // clears it
     int count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(folder.path("out"))) {
       ++count;

@@ -53,8 +53,14 @@ std::string hiddenName() {
          std::string(kHiddenSuffix);
 }
 
-bool isHiddenName(const std::string& name) {
-  return name.starts_with(kHiddenPrefix) && name.ends_with(kHiddenSuffix);
+void clearLeftovers(const fs::path& directory) {
+  std::error_code error;
+  for (fs::directory_iterator entry(directory, error), end; !error && entry != end;
+       entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
+    if (!name.starts_with(kHiddenPrefix) || !name.ends_with(kHiddenSuffix)) continue;
+    ::unlink(entry->path().c_str());
+  }
 }
 
 }  // namespace
@@ -138,11 +144,8 @@ void OutputFile::createHidden() {
     hidden_ = directory + hiddenName();
     handle_ = ::open(hidden_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
   } while (handle_ < 0 && (errno == EINTR || errno == EEXIST));
-  if (!isOpen()) return;
-  // The lock tells clearLeftovers that the file is in use. Where locks or modes don't exist, the
-  // file is written all the same.
-  ::flock(handle_, LOCK_EX | LOCK_NB);
-  if (hasOld_ && ::fchmod(handle_, old_.st_mode & 07777) != 0) errno = 0;
+  // Where modes don't exist, the file is written all the same.
+  if (isOpen() && hasOld_) ::fchmod(handle_, old_.st_mode & 07777);
 }
 
 bool OutputFile::write(std::span<const std::uint8_t> bytes) {
@@ -189,19 +192,17 @@ void OutputFile::abandon() {
   ::unlink(hidden_.c_str());
 }
 
-void clearLeftovers(const std::string& directory) {
-  const fs::path native = nativePath(directory);
+DirectoryHold::DirectoryHold(const std::string& directory) {
+  const std::string native = nativePath(directory);
   if (native.empty()) return;
-  std::error_code error;
-  for (fs::directory_iterator entry(native, error), end; !error && entry != end;
-       entry.increment(error)) {
-    if (!isHiddenName(entry->path().filename().string())) continue;
-    const int handle =
-        ::open(entry->path().c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    if (handle < 0) continue;
-    if (::flock(handle, LOCK_EX | LOCK_NB) == 0) ::unlink(entry->path().c_str());
-    ::close(handle);
-  }
+  handle_ = ::open(native.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (handle_ < 0) return;
+  if (::flock(handle_, LOCK_EX | LOCK_NB) == 0) clearLeftovers(native);
+  ::flock(handle_, LOCK_SH | LOCK_NB);
+}
+
+DirectoryHold::~DirectoryHold() {
+  if (handle_ >= 0) ::close(handle_);
 }
 
 }  // namespace sys

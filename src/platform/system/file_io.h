@@ -36,8 +36,9 @@ class InputFile {
 enum class Tail { Keep, Drop };
 
 /// A file that appears under its name in one step. The bytes are written to a hidden file in the
-/// same directory, and `commit` renames it. So at every moment, whatever fails and even if the
-/// program is killed, the name holds either what was there before or the whole new file.
+/// same directory, and `commit` renames it. Hold the directory meanwhile. So at every moment,
+/// whatever fails and even if the program is killed, the name holds either what was there before or
+/// the whole new file.
 ///
 /// The new file has the mode of the one it replaces. A link is replaced itself; what it leads to
 /// stays as it is. Directories, devices, pipes and write-protected files aren't replaced.
@@ -71,8 +72,17 @@ class OutputFile {
   struct stat old_ {};
 };
 
-/// Removes the hidden files that a killed program has left in a directory. Those that another copy
-/// of the program is still writing stay.
-void clearLeftovers(const std::string& directory);
+/// Held while files are written into a directory. The first to hold one removes the hidden files
+/// that a killed program has left there; while another copy of the program holds it, they stay.
+class DirectoryHold {
+ public:
+  explicit DirectoryHold(const std::string& directory);
+  ~DirectoryHold();
+  DirectoryHold(const DirectoryHold&) = delete;
+  DirectoryHold& operator=(const DirectoryHold&) = delete;
+
+ private:
+  int handle_ = -1;
+};
 
 }  // namespace sys

@@ -49,7 +49,9 @@ class HeldDirectory {
   ~HeldDirectory() {
     std::error_code error;
     if (isHeld_ && isFleeting) fs::remove_all(path_, error);
-    if (handle_ >= 0) ::close(handle_);
+    for (const int handle : {lock_, handle_}) {
+      if (handle >= 0) ::close(handle);
+    }
   }
   HeldDirectory(const HeldDirectory&) = delete;
   HeldDirectory& operator=(const HeldDirectory&) = delete;
@@ -66,10 +68,14 @@ class HeldDirectory {
 
  private:
   /// Where the file system has no locks, nobody else can hold the directory either.
-  bool lock() const { return ::flock(handle_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK; }
+  bool lock() {
+    lock_ = ::openat(handle_, ".lock", O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
+    return ::flock(lock_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+  }
 
   fs::path path_;
   int handle_ = -1;
+  int lock_ = -1;
   bool isHeld_ = false;
 };
 

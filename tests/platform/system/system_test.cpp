@@ -35,7 +35,7 @@ TEST_F(System, TemporaryFilesNeverLieWhereOthersCanWrite) {
     folder.makeFolder("cache/raster-mill-killed");
     if (isLink) fs::create_directory_symlink(folder.path("planted"), own);
     if (!isLink) fs::create_directory(own);
-    const int other = ::open(own.c_str(), O_RDONLY);
+    const int other = ::open((own / ".lock").c_str(), O_RDWR | O_CREAT, 0600);
     ::flock(other, LOCK_EX);  // another copy of the program is running
     EXPECT_TRUE(sys::tempDirectory().starts_with(folder.drive("cache/raster-mill-"))) << isLink;
     EXPECT_EQ(fs::status(folder.path("planted")).permissions() & fs::perms::others_read,
