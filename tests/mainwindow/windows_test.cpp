@@ -58,6 +58,7 @@ TEST_F(Windows, ShowEveryControlWholeAndByTheTabKey) {
       {&*frmSplash, "", {492, 283}, "CompanyProduct"}};
   for (const auto& [form, title, client, odd] : windows) {
     form->show();
+    QApplication::setFont(QFont("DejaVu Sans", 14));  // as a desktop's theme does at any time
     EXPECT_EQ(form->windowTitle(), title);
     EXPECT_EQ(form->client()->size(), client) << title;
     EXPECT_EQ(form->minimumSize() == form->maximumSize(), form != &*frmPreviewToolbar) << title;

@@ -1,12 +1,12 @@
 #include "platform/forms/desktop.h"
 
-#include <QFont>
 #include <QImageReader>
 #include <QProxyStyle>
 
 #include <csignal>
 #include <malloc.h>
 
+#include "platform/forms/window_font.h"
 #include "platform/system/application.h"
 #include "platform/system/text.h"
 
@@ -39,14 +39,6 @@ class CompactStyle final : public QProxyStyle {
   }
 };
 
-QFont defaultFont() {
-  QFont font;
-  font.setFamilies(
-      {QStringLiteral("Liberation Sans"), QStringLiteral("Arial"), QStringLiteral("Helvetica")});
-  font.setPixelSize(11);
-  return font;
-}
-
 }  // namespace
 
 Desktop::Desktop(char* programName)
@@ -55,7 +47,7 @@ Desktop::Desktop(char* programName)
   // The program ends with its main window, not when no window is visible.
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setStyle(new CompactStyle);
-  QApplication::setFont(defaultFont());
+  QApplication::setFont(windowFont());
   // A file that meets the limit for file sizes fails to be written, like on a full disk.
   std::signal(SIGXFSZ, SIG_IGN);
   // Memory goes from one picture to the next; giving it back and asking for it again costs more

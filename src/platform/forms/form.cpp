@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "platform/forms/hourglass.h"
+#include "platform/forms/window_font.h"
 #include "platform/system/text.h"
 
 namespace forms {
@@ -45,6 +46,7 @@ QIcon programIcon() {
 
 Form::Form(const FormLook& look) : QDialog(nullptr, flagsOf(look)), look_(look) {
   setObjectName(QString::fromUtf8(look.Name));
+  setFont(windowFont());
   setCaption(look.Caption);
   if (look.Icon) setWindowIcon(programIcon());
   // Showing a tool window doesn't take the focus from the window in use.
@@ -76,6 +78,7 @@ void Form::load() {
                   [](const QPushButton* button) { return button->isDefault(); });
   // Without a default button, Qt would use the first auto-default one.
   for (QPushButton* button : buttons) button->setAutoDefault(hasDefault);
+  fitCaptions(*this);
   Form_Load();
 }
 
