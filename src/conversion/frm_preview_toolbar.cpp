@@ -23,13 +23,16 @@ void PreviewForm::Form_Load() {
   hooks.fitPreview = [this](std::int32_t width, std::int32_t height) { fit(width, height); };
 }
 
-/// Gives the client area the picture's size, limited to the screen.
+/// Gives the client area the picture's size, limited to the screen and to what one can take hold of.
+/// The picture before is no longer shown.
 void PreviewForm::fit(std::int32_t width, std::int32_t height) {
+  constexpr QSize kLeast(32, 16);
+  Picture1->showImage({}, {});
   const QSize most = screen()->virtualSize();
   // Top-down bitmaps have a negative height.
   const std::int64_t rows = std::abs(std::int64_t{height});
-  resize(std::clamp(width, 1, most.width()),
-         static_cast<int>(std::clamp<std::int64_t>(rows, 1, most.height())));
+  resize(std::clamp(width, kLeast.width(), most.width()),
+         static_cast<int>(std::clamp<std::int64_t>(rows, kLeast.height(), most.height())));
 }
 
 void PreviewForm::Form_Resize() {

@@ -42,9 +42,11 @@ std::shared_ptr<const QImage> LoadBitmapDC(const std::string& path) {
 void ShowPreview() {
   // Resizing the window while its message is open must not show another one.
   bool& isShowing = frmPreviewToolbar->isShowing;
-  if (state.TempPicturePath.empty() || std::exchange(isShowing, true)) return;
-  const forms::Hourglass hourglass;
+  if (state.TempPicturePath.empty() || isShowing) return;
   clearPreview();
+  if (!state.TempPictureIsCurrent) return;
+  isShowing = true;
+  const forms::Hourglass hourglass;
   state.PreviewDC = LoadBitmapDC(state.TempPicturePath);
   frmPreviewToolbar->paintPreview(state.ResizeFit ? sizeOf(state.PictureRecord)
                                                   : frmPreviewToolbar->boxSize());
@@ -57,6 +59,7 @@ void renewPreview() {
   state.TempPicturePath.clear();  // nothing to show while a message is open
   const bool isWritten = WriteBitmap(path, sys::Tail::Drop);
   if (isWritten) state.TempPicturePath = path;
+  state.TempPictureIsCurrent = isWritten;
   if (state.PictureFileName.empty()) return;
   isWritten ? ShowPreview() : clearPreview();
 }

@@ -127,6 +127,7 @@ void OpenPicture(const std::string& path, PaletteNames* names) {
   }
   file.reset();
   state.PictureSourceFile = path;
+  state.TempPictureIsCurrent = false;
   state.IsStandardBitmap = state.RecordIsStandard = standard;
   // If the colours couldn't be saved, bmp.pal still holds older ones: don't reload it.
   const bool loadable = !standard || takeColours();

@@ -36,6 +36,9 @@ struct ProgramState {
 
   /// Where the preview's bitmap has been written; empty where that failed.
   std::string TempPicturePath;
+  /// Whether that bitmap is the open picture's. It isn't while the user chooses a palette for a
+  /// picture that has just been opened.
+  bool TempPictureIsCurrent = false;
   /// File name of the open picture, without directory; empty when none is open.
   std::string PictureFileName;
   /// Path of the file that `PictureRecord` was read from, which must never be overwritten. Unlike

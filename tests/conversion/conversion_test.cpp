@@ -157,7 +157,7 @@ TEST_F(Conversion, ThePreviewShowsColour0WhereARunLengthBitmapSkipsPixels) {
   start();
   messages.answers = {QMessageBox::Yes};
   preview("runs.bmp");
-  expectShown(plain, {8, 2});
+  expectShown(plain, {32, 16});  // the smallest window
 }
 
 TEST_F(Conversion, ThePreviewIsEmptyWhereTheBitmapCannotBeLoadedOrWritten) {
@@ -170,7 +170,7 @@ TEST_F(Conversion, ThePreviewIsEmptyWhereTheBitmapCannotBeLoadedOrWritten) {
   messages.expectLast(1, "error loading bitmap.", "RasterMill", QMessageBox::NoIcon);
   expectEmpty({80, 50});
   preview("b.bmp");
-  expectShown(temporary(), {4, 4});
+  expectShown(temporary(), {32, 16});
 
   ::setenv("temp", folder.drive("gone").c_str(), 1);
   preview("a.bmp");

@@ -50,6 +50,9 @@ TEST_F(Chooser, OnlyAButtonDecidesAndAPreviewIsNoChoice) {
     test::pressAndThen("frmMain", "cmdOpen", [&] {
       const std::string current = state.CurrentPaletteFile;
       EXPECT_FALSE(test::isEnabled(kForm, "cmdOK"));
+      test::window("frmPreviewToolbar")->resize(50 + seed, 40);
+      test::settle();  // shows nothing of the picture before
+      EXPECT_FALSE(state.PreviewDC);
       for (const int row : {0, 1}) {
         choose(row);
         press(kForm, "cmdPrev");
