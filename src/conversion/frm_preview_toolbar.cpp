@@ -23,8 +23,8 @@ void PreviewForm::Form_Load() {
   hooks.fitPreview = [this](std::int32_t width, std::int32_t height) { fit(width, height); };
 }
 
-/// Gives the client area the picture's size, limited to the screen and to what one can take hold of.
-/// The picture before is no longer shown.
+/// Gives the client area the picture's size, limited to the screen and to what one can take hold
+/// of. The picture before is no longer shown.
 void PreviewForm::fit(std::int32_t width, std::int32_t height) {
   constexpr QSize kLeast(32, 16);
   Picture1->showImage({}, {});

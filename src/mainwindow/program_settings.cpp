@@ -40,12 +40,24 @@ constexpr FlagSetting kFlags[] = {
     {"AutoPrev", &ProgramState::AutoPrev, false},  {"AutoPal", &ProgramState::AutoPal, true},
     {"ResizeFit", &ProgramState::ResizeFit, true}, {"Search", &ProgramState::Search, true}};
 
+/// Paths of the program's own are stored relative to it, beginning with a dot, so that a moved
+/// installation finds its data.
+std::string storedForm(const std::string& path) {
+  const std::string own = sys::App.Path(), data = sys::join(own, "data");
+  const bool isOwn = path == own || path == data || path == sys::join(data, "base.pal");
+  return isOwn ? std::string(".").append(path, own.size()) : path;
+}
+
+std::string fromStoredForm(const std::string& text) {
+  return text == "." || text.starts_with(".\\") ? sys::App.Path() + text.substr(1) : text;
+}
+
 }  // namespace
 
 void readSettings() {
   const sys::Settings store(sys::App.Title, kSection);
   for (const PathSetting& path : pathSettings()) {
-    state.*path.value = store.text(path.key, path.fallback);
+    state.*path.value = fromStoredForm(store.text(path.key, path.fallback));
   }
   for (const FlagSetting& flag : kFlags) {
     state.*flag.value = store.flag(flag.key, flag.fallback);
@@ -54,7 +66,8 @@ void readSettings() {
 
 void writeSettings() {
   sys::Settings store(sys::App.Title, kSection);
-  for (const PathSetting& path : pathSettings()) store.setText(path.key, state.*path.value);
+  for (const PathSetting& path : pathSettings())
+    store.setText(path.key, storedForm(state.*path.value));
   for (const FlagSetting& flag : kFlags) store.setFlag(flag.key, state.*flag.value);
   if (!store.save()) warn("The settings can't be saved.\n" + store.file());
 }

@@ -49,12 +49,16 @@ TEST_F(MainWindow, TakesOddSettings) {
   set("Source", folder.drive("gone"));
   set("ShowPrev", "True");
   set("ResizeFit", "maybe");  // counts as missing, and True is the default
+  set("Dest", ".\\data");     // of the program, wherever it is now
   start();
+  EXPECT_EQ(control<forms::ComboBox>("frmMain", "lstDest")->Text(), sys::App.Path() + "\\data");
   EXPECT_EQ(control<forms::ComboBox>("frmMain", "lstSource")->Text(), sys::App.Path());
   EXPECT_TRUE(window("frmPreviewToolbar")->isVisible() && isEnabled("frmMain", "cmdOpen"));
   click("chkPrev");
   EXPECT_FALSE(window("frmPreviewToolbar")->isVisible() || isEnabled("frmMain", "chkResize"));
   EXPECT_TRUE(control<QCheckBox>("frmMain", "chkResize")->isChecked());  // keeps its tick
+  press("frmMain", "cmdExit");
+  EXPECT_EQ(settings().text("Source", "") + settings().text("Dest", ""), "..\\data");
 }
 
 TEST_F(MainWindow, OffersWhatSuitsTheSelectionAndConvertsAtADoubleClick) {
