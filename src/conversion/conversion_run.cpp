@@ -38,7 +38,9 @@ forms::Answer ConversionRun::tell(forms::Message message) {
     if (passedOver_.empty() || passedOver_.back() != name_) passedOver_.push_back(name_);
     return forms::Answer::OK;
   }
-  message.informative = whichPicture();
+  std::string where = whichPicture();
+  if (!message.informative.empty()) where.append("\n").append(message.informative);
+  message.informative = std::move(where);
   if (!isFailure || ++failures_ == 1 || current_ == count_ || !goesOn_) {
     return forms::MsgBox(message);
   }

@@ -4,15 +4,22 @@
 
 #include "platform/forms/combo_box.h"
 #include "platform/forms/dir_tree.h"
+#include "platform/forms/plain_text.h"
+#include "platform/system/files.h"
 #include "platform/system/paths.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
-/// Moves the lists of a browse dialog to a directory and its drive.
+/// Moves the lists of a browse dialog to a directory and its drive. If it is gone, they show the
+/// nearest one above it, and a tool tip says so.
 inline void startAt(forms::DriveBox& drives, forms::DirTree& directories, const std::string& path) {
   const std::string place = sys::drivePath(path);
   drives.setDrive(place.substr(0, 2));
   directories.setPath(place);
+  const bool isThere = sys::isDirectory(place);
+  const std::string gone = place + " doesn't exist.";
+  directories.setToolTip(isThere ? QString() : forms::plainToolTip(sys::shown(gone)));
 }
 
 /// The same for the directory of a file: the part after the last backslash is dropped, so a path
@@ -20,8 +27,9 @@ inline void startAt(forms::DriveBox& drives, forms::DirTree& directories, const 
 inline void startAtFile(forms::DriveBox& drives, forms::DirTree& directories,
                         const std::string& path) {
   const std::string file = sys::drivePath(path);
+  const std::size_t end = file.rfind('\\') + 1;
   drives.setDrive(file.substr(0, 2));
-  directories.setPath(file.substr(0, file.rfind('\\') + 1));
+  if (end > 0) startAt(drives, directories, file.substr(0, end));
 }
 
 }  // namespace mill

@@ -1,5 +1,8 @@
 #include "palette/frm_colour.h"
 
+#include <QAction>
+#include <QKeyEvent>
+
 #include "conversion/show_preview.h"
 #include "dialogs/frm_save.h"
 #include "palette/frm_pal_extract.h"
@@ -12,6 +15,9 @@
 namespace mill {
 
 namespace {
+
+constexpr QKeyCombination kUndo = Qt::CTRL | Qt::Key_Z;
+constexpr QKeyCombination kRedo = Qt::CTRL | Qt::SHIFT | Qt::Key_Z;
 
 /// The number in a box, limited to the range of a byte.
 std::uint8_t byteOf(const QLineEdit& box) {
@@ -26,6 +32,20 @@ ColourEntry inverse(const ColourEntry& colour) {
   return {inverse(colour.Red), inverse(colour.Green), inverse(colour.Blue), colour.Extra};
 }
 
+/// One change of the working palette.
+class PaletteChange final : public QUndoCommand {
+ public:
+  PaletteChange(ColourTable& palette, const ColourTable& after)
+      : palette_(palette), before_(palette), after_(after) {}
+
+  void undo() override { palette_ = before_; }
+  void redo() override { palette_ = after_; }
+
+ private:
+  ColourTable& palette_;
+  const ColourTable before_, after_;
+};
+
 }  // namespace
 
 ColourForm::ColourForm()
@@ -35,11 +55,36 @@ ColourForm::ColourForm()
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {
   cmdOK->setFocus();  // pressing Enter right away means OK
+  QAction* const undo = changes_.createUndoAction(this);
+  QAction* const redo = changes_.createRedoAction(this);
+  undo->setShortcut(kUndo);
+  redo->setShortcut(kRedo);
+  addActions({undo, redo});
+  connect(&changes_, &QUndoStack::indexChanged, this, [this] { showPalette(); });
+  for (QLineEdit* box : {txtRed, txtGreen, txtBlue, txtIndex}) box->installEventFilter(this);
+}
+
+/// A box undoes its own typing first, and leaves the keys to the palette when there is none.
+bool ColourForm::eventFilter(QObject* watched, QEvent* event) {
+  const auto* box = qobject_cast<QLineEdit*>(watched);
+  if (!box || event->type() != QEvent::ShortcutOverride) return Form::eventFilter(watched, event);
+  const QKeyCombination keys = static_cast<QKeyEvent*>(event)->keyCombination();
+  const bool isUndo = keys == kUndo && !box->isUndoAvailable();
+  const bool isRedo = keys == kRedo && !box->isRedoAvailable();
+  return isUndo || isRedo;
+}
+
+void ColourForm::change(const ColourTable& colours) {
+  changes_.push(new PaletteChange(WorkingPalette, colours));
+}
+
+void ColourForm::showPalette() {
+  palette1->setColours(WorkingPalette);
 }
 
 void ColourForm::Form_Load() {
   WorkingPalette = state.PaletteTable;
-  palette1->setColours(WorkingPalette);
+  showPalette();
   txtIndex->setText(QStringLiteral("0"));
 }
 
@@ -74,8 +119,9 @@ void ColourForm::cmdNew_Click() {
   const std::uint8_t index = byteOf(*txtIndex);
   ColourEntry colour = boxColour();
   colour.Extra = WorkingPalette[index].Extra;
-  WorkingPalette[index] = colour;
-  palette1->setColours(WorkingPalette);
+  ColourTable changed = WorkingPalette;
+  changed[index] = colour;
+  change(changed);
 }
 
 void ColourForm::cmdInvert_Click() {
@@ -83,8 +129,9 @@ void ColourForm::cmdInvert_Click() {
 }
 
 void ColourForm::cmdInvertAll_Click() {
-  for (ColourEntry& colour : WorkingPalette) colour = inverse(colour);
-  palette1->setColours(WorkingPalette);
+  ColourTable changed = WorkingPalette;
+  for (ColourEntry& colour : changed) colour = inverse(colour);
+  change(changed);
 }
 
 std::string ColourForm::pickFile(const char* caption) {
@@ -111,9 +158,10 @@ void ColourForm::cmdLoad_Click() {
   const std::string path = pickFile("Load Palette File");
   if (path.empty()) return;
   std::string head;  // unused: files saved here get the head of the current palette
-  if (!readPaletteFile(path, head, WorkingPalette).isRead) return keepFile();
+  ColourTable loaded;
+  if (!readPaletteFile(path, head, loaded).isRead) return keepFile();
   hasFile_ = true;
-  palette1->setColours(WorkingPalette);
+  change(loaded);
 }
 
 void ColourForm::cmdSave_Click() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QUndoStack>
+
 #include <string>
 
 #include "formats/picture_record.h"
@@ -11,7 +13,7 @@
 namespace mill {
 
 /// The palette editor. It works on a copy: edits leave the window only as a file, and OK makes the
-/// file last loaded or saved here the current palette.
+/// file last loaded or saved here the current palette. Every change of the copy can be undone.
 class ColourForm final : public forms::Form {
  public:
   ColourForm();
@@ -32,6 +34,11 @@ class ColourForm final : public forms::Form {
   void cmdInvert_Click();
   void cmdNew_Click();
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+  /// Makes `colours` the working palette, in a step that can be undone.
+  void change(const ColourTable& colours);
+  void showPalette();
   ColourEntry boxColour() const;
   void showNumbers(const ColourEntry& entry);
   /// Lets the user pick a file and returns its full path, empty on Cancel.
@@ -40,6 +47,7 @@ class ColourForm final : public forms::Form {
   void keepFile();
 
   ColourTable WorkingPalette{};
+  QUndoStack changes_;
   /// Whether `BrowseResult` and `FileResult` name a file loaded or saved here.
   bool hasFile_ = false;
   std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `pickFile`

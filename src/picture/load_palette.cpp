@@ -42,7 +42,11 @@ PaletteRead readPaletteFile(const std::string& path, std::string& head, ColourTa
   if (fault == Fault::PaletteUnreadable) {
     warn(fault, path);
   } else if (fault != Fault::None) {
-    hooks.tell({.text = std::string(message(fault))});
+    std::string where = path;
+    if (path == state.DefaultPalette) {
+      where += "\nThis is the default palette. You can choose another one.";
+    }
+    hooks.tell({.text = std::string(message(fault)), .informative = where});
   }
   return {fault, hasHead};
 }

@@ -59,6 +59,8 @@ TEST_F(BrowseDialogs, StartWhereTheSeedSaysAndTheirListsFollowEachOther) {
     for (const auto& [seed, directory, ofFile] : cases) {
       use(dialog, seed, [&] {
         if (dialog == kSave) control<QLineEdit>(dialog, "txtFilename")->setText("x.pal");
+        const bool isGone = control(dialog, "Dir1")->toolTip().contains("gone");
+        EXPECT_EQ(isGone, seed.find("gone") != std::string::npos);
         pressOK(dialog);
       });
       EXPECT_EQ(state.BrowseResult, dialog == kBrowse ? directory : ofFile) << seed;

@@ -31,6 +31,7 @@ class Editor : public test::WindowTest {
     state.PaletteTable = own;
     state.PaletteHeader = kHead;
     frmColour->show();
+    test::settle();
   }
   static void click(int swatch) {
     auto* view = control<QTableView>(kForm, "palette1");
@@ -79,6 +80,13 @@ TEST_F(Editor, TypedNumbersReachTheSavedFile) {
   for (auto& [red, green, blue, extra] : changed) {
     for (std::uint8_t* part : {&red, &green, &blue}) *part = static_cast<std::uint8_t>(~*part);
   }
+  test::expectSwatches(kForm, changed);
+  const auto undo = [](Qt::Key key, Qt::KeyboardModifiers shift) {
+    QTest::keyClick(control(kForm, "txtRed"), key, Qt::ControlModifier | shift);
+  };
+  for (int i = 0; i < 5; ++i) undo(Qt::Key_Z, {});
+  test::expectSwatches(kForm, own);
+  for (int i = 0; i < 5; ++i) undo(Qt::Key_Z, Qt::ShiftModifier);
   test::expectSwatches(kForm, changed);
   use("cmdSave", "inverted.pal");
   EXPECT_EQ(test::readFile(folder.path("inverted.pal")), paletteFile(kHead, changed));
