@@ -1,5 +1,7 @@
 #include "mainwindow/frm_main.h"
 
+#include <QAction>
+
 #include "conversion/frm_convert.h"
 #include "conversion/frm_preview_toolbar.h"
 #include "mainwindow/program_settings.h"
@@ -21,6 +23,10 @@ MainForm::MainForm()
             .Icon = true}) {
   // Qt alternates between ambiguous mnemonics; the menu "File" keeps this one.
   cmdInfo->setShortcut({});
+  auto* refresh = new QAction(this);
+  refresh->setShortcut(Qt::Key_F5);
+  connect(refresh, &QAction::triggered, this, [this] { refreshFiles(); });
+  addAction(refresh);
 }
 
 void MainForm::Form_Load() {

@@ -30,6 +30,8 @@ class MainForm final : public forms::Form {
   void setCheckBoxes();
 
   // Folders and files.
+  void changeEvent(QEvent* event) override;
+  void refreshFiles();
   void lstSource_Change();
   void lstDest_Change() { warnIfDirectoriesAreOne(); }
   void filSource_Click();

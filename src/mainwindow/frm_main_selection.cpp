@@ -1,3 +1,5 @@
+#include <QEvent>
+
 #include "dialogs/browse.h"
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
@@ -13,6 +15,20 @@ void MainForm::warnIfDirectoriesAreOne() {
 void MainForm::lstSource_Change() {
   warnIfDirectoriesAreOne();
   filSource->setPath(lstSource->Text());
+}
+
+/// Other programs may have changed the folder while they were in front.
+void MainForm::changeEvent(QEvent* event) {
+  Form::changeEvent(event);
+  const bool isActivation = event->type() == QEvent::ActivationChange && isActiveWindow();
+  if (isActivation && filSource->isStale()) refreshFiles();
+}
+
+/// Reads the folder again. Only if a selected file is gone does that count as a click.
+void MainForm::refreshFiles() {
+  const std::vector<std::string> before = filSource->selectedNames();
+  filSource->refresh();
+  if (filSource->selectedNames() != before) filSource_Click();
 }
 
 void MainForm::filSource_Click() {

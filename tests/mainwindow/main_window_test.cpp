@@ -61,6 +61,22 @@ TEST_F(MainWindow, TakesOddSettings) {
   EXPECT_EQ(settings().text("Source", "") + settings().text("Dest", ""), "..\\data");
 }
 
+TEST_F(MainWindow, ReadsTheFolderAgainAtF5AndWhenItBecomesActive) {
+  for (const char* name : {"b.bmp", "d.bmp"}) addPicture(name);
+  start();
+  select({"b.bmp", "d.bmp"});
+  const auto* list = control<forms::FileList>("frmMain", "filSource");
+  addPicture("a.bmp");
+  QTest::keyClick(control("frmMain", "lstDest"), Qt::Key_F5);
+  EXPECT_EQ(list->model()->rowCount(), 3);
+  EXPECT_EQ(list->selectedNames(), (Texts{"b.bmp", "d.bmp"}));
+  std::filesystem::remove(folder.path("in/b.bmp"));
+  QEvent activation(QEvent::ActivationChange);
+  QApplication::sendEvent(window("frmMain"), &activation);
+  EXPECT_EQ(list->selectedNames(), Texts{"d.bmp"});
+  EXPECT_TRUE(isEnabled("frmMain", "cmdConvert") && !isEnabled("frmMain", "cmdBatch"));
+}
+
 TEST_F(MainWindow, OffersWhatSuitsTheSelectionAndConvertsAtADoubleClick) {
   addPicture("c.bmp");
   folder.write("in/b.bmp", model::convertedBitmap(addPicture("a.bmp"), colours));

@@ -1,5 +1,7 @@
 #include "platform/forms/file_list.h"
 
+#include <QScrollBar>
+
 #include <algorithm>
 #include <cctype>
 #include <utility>
@@ -41,7 +43,35 @@ void FileList::setPattern(const std::string& pattern) {
   reload();
 }
 
+void FileList::refresh() {
+  const std::vector<std::string> kept = selectedNames();
+  const std::string current = sys::bytesOf(currentIndex().data().toString());
+  const int top = verticalScrollBar()->value();
+  reload();
+  QItemSelection selection;
+  QModelIndex at;
+  int begin = -1;  // of a range of selected rows
+  for (int row = 0; row <= model()->rowCount(); ++row) {
+    const QModelIndex index = model()->index(row, 0);
+    const std::string name = sys::bytesOf(index.data().toString());
+    if (index.isValid() && name == current) at = index;
+    const bool isKept =
+        index.isValid() && std::binary_search(kept.begin(), kept.end(), name, comesBefore);
+    if (isKept && begin < 0) begin = row;
+    if (isKept || begin < 0) continue;
+    selection.select(model()->index(std::exchange(begin, -1), 0), model()->index(row - 1, 0));
+  }
+  selectionModel()->setCurrentIndex(at, QItemSelectionModel::NoUpdate);
+  selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  verticalScrollBar()->setValue(top);
+}
+
+bool FileList::isStale() const {
+  return sys::stampOf(path_) != stamp_;
+}
+
 void FileList::reload() {
+  stamp_ = sys::stampOf(path_);
   std::vector<std::string> names = sys::filesIn(path_, pattern_);
   std::sort(names.begin(), names.end(), comesBefore);
   QStringList texts;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,11 @@ class FileList final : public GestureList {
   void setPath(const std::string& path);
   void setPattern(const std::string& pattern);
 
+  /// Reads the directory again and keeps what is selected, as far as it is still there.
+  void refresh();
+  /// Whether the directory has changed since it was read.
+  bool isStale() const;
+
   /// The selected names, in list order.
   std::vector<std::string> selectedNames() const;
   /// The name at the current item; see `GestureList::chosenText`.
@@ -30,6 +36,7 @@ class FileList final : public GestureList {
 
   std::string path_;
   std::string pattern_;
+  std::int64_t stamp_ = 0;  ///< of the directory, when it was read
 };
 
 }  // namespace forms

@@ -74,6 +74,12 @@ bool exists(const std::string& path) {
   return !native.empty() && fs::exists(native, error);
 }
 
+std::int64_t stampOf(const std::string& directory) {
+  struct stat status {};
+  if (::stat(nativePath(directory).c_str(), &status) != 0) return 0;
+  return std::int64_t{status.st_mtim.tv_sec} * 1'000'000'000 + status.st_mtim.tv_nsec;
+}
+
 bool makeDirectory(const std::string& path) {
   const fs::path native = nativePath(path);
   std::error_code error;

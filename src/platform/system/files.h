@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,9 @@ bool isDirectory(const std::string& path);
 bool exists(const std::string& path);
 /// Whether both paths lead to the same file or directory, by any name or link.
 bool isSame(const std::string& path, const std::string& other);
+
+/// Changes whenever a file in the directory is made, renamed or removed; 0 if it can't be read.
+std::int64_t stampOf(const std::string& directory);
 
 /// Creates one directory in an existing one. False on failure.
 bool makeDirectory(const std::string& path);
