@@ -28,6 +28,10 @@ void ConversionRun::next(const std::string& name) {
   name_ = name;
 }
 
+std::string ConversionRun::progressText() const {
+  return share(current_, count_) + " – " + name_;
+}
+
 std::string ConversionRun::whichPicture() const {
   return share(current_, count_) + "\n" + sys::join(directory_, name_);
 }

@@ -23,6 +23,8 @@ class ConversionRun {
   /// Shows a message about the current picture. One with a choice of answers is a question, any
   /// other a failure.
   forms::Answer tell(forms::Message message);
+  /// "3 of 20,000 – HARBOUR.BMP".
+  std::string progressText() const;
   /// "3 of 20,000", and on a second line the path of the current picture.
   std::string whichPicture() const;
   /// Tells what was passed over, if anything.

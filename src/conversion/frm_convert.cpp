@@ -10,6 +10,7 @@
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
+#include "platform/system/text.h"
 
 namespace mill {
 
@@ -27,6 +28,9 @@ void ConvertForm::Form_Load() {
   hooks.tell = [this](const forms::Message& message) {
     return run_ ? run_->tell(message) : forms::MsgBox(message);
   };
+  for (auto* bar : {Progress1, Progress2}) {
+    bar->subject = [this] { return run_ ? sys::shown(run_->progressText()) : QString(); };
+  }
   hooks.whichPicture = [this] { return run_ ? run_->whichPicture() : std::string(); };
   hooks.incProgress = [this](std::int16_t num, std::int32_t n) { incProgress(num, n); };
 }

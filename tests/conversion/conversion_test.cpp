@@ -1,6 +1,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QProgressBar>
 #include <QWindow>
 
 #include "conversion/frm_info.h"
@@ -84,6 +85,10 @@ TEST_F(Conversion, AsksFromTheSecondFailureOnAndSumsUpWhatWasPassedOver) {
   Texts below;
   messages.meanwhile = [&] {
     const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (below.empty()) {
+      const auto text = control<QProgressBar>("frmConvert", "Progress1")->text();
+      EXPECT_EQ(text.toStdString(), "1 of 5 – a.bmp");
+    }
     below.push_back((box->informativeText() + box->detailedText()).toStdString());
     if (below.size() == 3) box->checkBox()->setChecked(true);
   };

@@ -22,7 +22,11 @@ std::int64_t coarseNow() {
 ProgressBar::ProgressBar(QWidget* parent) : QProgressBar(parent) {
   setRange(0, 100);
   QProgressBar::setValue(0);
-  setTextVisible(false);
+}
+
+QString ProgressBar::text() const {
+  constexpr int kMargins = 8;
+  return fontMetrics().elidedText(subject(), Qt::ElideMiddle, width() - kMargins);
 }
 
 void ProgressBar::follow() {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 
 namespace forms {
 
@@ -14,6 +15,10 @@ namespace forms {
 class ProgressBar final : public QProgressBar {
  public:
   explicit ProgressBar(QWidget* parent);
+
+  /// What the bar is about, asked for only when it is painted.
+  std::function<QString()> subject = [] { return QString(); };
+  QString text() const override;
 
   int Value() const { return value_; }
   /// Clamped to 0…100.
