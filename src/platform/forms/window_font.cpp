@@ -47,7 +47,7 @@ QFont windowFont() {
 
 void fitCaptions(const QWidget& window) {
   for (auto* label : window.findChildren<QLabel*>()) {
-    if (!dynamic_cast<ElidedLabel*>(label)) fit(*label);
+    if (label && !dynamic_cast<ElidedLabel*>(label)) fit(*label);
   }
   for (auto* button : window.findChildren<QAbstractButton*>()) fit(*button);
 }
