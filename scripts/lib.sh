@@ -8,6 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 build_packages=(qt6-base-dev cmake ninja-build g++ fonts-liberation)
 test_packages=(libgtest-dev libbenchmark-dev)
 desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
+wayland_packages=(weston sway wtype grim qt6-wayland)
 fuzz_packages=(clang libclang-rt-14-dev)
 format_packages=(clang-format)
 

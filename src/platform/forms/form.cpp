@@ -98,6 +98,11 @@ void Form::setCaption(const std::string& caption) {
 
 void Form::setVisible(bool visible) {
   if (visible) {
+    Form& main = *loaded_.front();
+    if (isAttached() && !main.isVisible()) {
+      if (!main.isHidden()) return;  // it is about to be shown, for this window's sake
+      main.show();
+    }
     place();
     if (!isVisible()) showFocus();
     if (isTool()) setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -129,6 +134,10 @@ void Form::place() {
   winId();
   windowHandle()->installEventFilter(this);
   if (owner) windowHandle()->setTransientParent(owner->windowHandle());
+  if (isAttached()) {
+    windowHandle()->setTransientParent(loaded_.front()->windowHandle());
+    if (!isVisible()) orderedSize_ = size();
+  }
 
   const auto centreOn = [this](const QPoint& centre) {
     move(centre - QPoint(width() / 2, height() / 2));
@@ -141,6 +150,13 @@ void Form::place() {
     centreOn(QGuiApplication::primaryScreen()->availableGeometry().center());
   }
   wasPlaced_ = true;
+}
+
+/// Wayland compositors place windows themselves. They keep a tool window near the window that it is
+/// attached to, and let it float even if they tile the others.
+bool Form::isAttached() const {
+  return isTool() && loaded_.front() != this &&
+         QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 /// Shows the focus from the start in windows opened by the keyboard.
@@ -198,13 +214,41 @@ void Form::endWait() {
 }
 
 bool Form::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) activated();
+  switch (event->type()) {
+    case QEvent::WindowActivate:
+      isAttached() ? passFocus() : activated();
+      break;
+    case QEvent::ShortcutOverride:
+      if (isAttached() && active_) return passKey(event);
+      break;
+    default:
+      break;
+  }
   return QDialog::event(event);
+}
+
+/// Compositors give the focus to each window that is shown, and some give it to an attached window
+/// when the main window is clicked. The window in use stays active and gets the keys.
+void Form::passFocus() {
+  const auto pass = [] {
+    if (active_) QApplication::setActiveWindow(active_);
+  };
+  QMetaObject::invokeMethod(this, pass, Qt::QueuedConnection);
+}
+
+bool Form::passKey(QEvent* event) {
+  QWidget* focus = active_->focusWidget();
+  return QCoreApplication::sendEvent(focus ? focus : active_.data(), event) && event->isAccepted();
 }
 
 /// Discards input that was queued before the window was hidden, such as the second half of a double
 /// click on its button.
 bool Form::eventFilter(QObject* watched, QEvent* event) {
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  if (isKey && isAttached() && active_ && active_ != this) {
+    QCoreApplication::sendEvent(active_->windowHandle(), event);
+    return true;
+  }
   const bool isInput =
       event->type() >= QEvent::MouseButtonPress && event->type() <= QEvent::KeyPress;
   return watched == windowHandle() && !isVisible() && isInput;
@@ -223,7 +267,16 @@ void Form::changeEvent(QEvent* event) {
 
 void Form::resizeEvent(QResizeEvent* event) {
   QDialog::resizeEvent(event);
+  if (isAttached() && event->spontaneous()) keepSize(event->oldSize());
   if (isLoaded_) Form_Resize();
+}
+
+/// Some compositors, whenever the focus moves, repeat the size they ordered last, although the
+/// window has taken another one since.
+void Form::keepSize(const QSize& own) {
+  if (std::exchange(orderedSize_, size()) != size()) return;
+  QMetaObject::invokeMethod(
+      this, [this, own] { resize(own); }, Qt::QueuedConnection);
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

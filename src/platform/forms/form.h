@@ -90,6 +90,10 @@ class Form : public QDialog, public Container {
  private:
   bool isTool() const { return look_.BorderStyle != Border::Fixed; }
   void place();
+  bool isAttached() const;
+  void passFocus();
+  static bool passKey(QEvent* event);
+  void keepSize(const QSize& own);
   void showFocus();
   bool isBlocked() const;
   void activated();
@@ -104,7 +108,8 @@ class Form : public QDialog, public Container {
   QPointer<Form> owner_;  ///< while it is shown modally
   bool isLoaded_ = false;
   bool wasPlaced_ = false;
-  int waits_ = 0;  ///< number of hourglasses
+  QSize orderedSize_;  ///< by a Wayland compositor, for an attached window
+  int waits_ = 0;      ///< number of hourglasses
   bool isWaitEnding_ = false;
 };
 
