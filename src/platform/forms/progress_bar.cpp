@@ -40,6 +40,7 @@ void ProgressBar::follow() {
 
 void ProgressBar::paintNow() {
   QProgressBar::setValue(value_);  // repaints at once if the bar is visible
+  setAccessibleDescription(subject());
   lastPaint_ = coarseNow();
 }
 

@@ -70,8 +70,10 @@ class SwatchModel final : public QAbstractTableModel {
   int columnCount(const QModelIndex& parent = {}) const override { return rowCount(parent); }
 
   QVariant data(const QModelIndex& at, int role) const override {
-    if (!isSet_ || !at.isValid()) return {};
+    if (!at.isValid()) return {};
     const int index = kSide * at.row() + at.column();
+    if (!isSet_ && role == Qt::AccessibleTextRole) return QStringLiteral("Entry %1").arg(index);
+    if (!isSet_) return {};
     const mill::ColourEntry& entry = colours_[static_cast<std::size_t>(index)];
     const QColor colour(entry.Red, entry.Green, entry.Blue);
     switch (role) {
