@@ -66,4 +66,8 @@ void ConversionRun::sumUp() const {
                  .details = std::move(names)});
 }
 
+std::string ConversionRun::result() const {
+  return share(converted_, count_) + " pictures were converted.";
+}
+
 }  // namespace mill

@@ -27,8 +27,12 @@ class ConversionRun {
   std::string progressText() const;
   /// "3 of 20,000", and on a second line the path of the current picture.
   std::string whichPicture() const;
+  /// The current picture has been converted.
+  void succeed() { ++converted_; }
   /// Tells what was passed over, if anything.
   void sumUp() const;
+  /// "1,990 of 2,000 pictures were converted."
+  std::string result() const;
 
  private:
   const std::string directory_;
@@ -36,6 +40,7 @@ class ConversionRun {
   int current_ = 0;
   std::string name_;
   int failures_ = 0;
+  int converted_ = 0;
   bool goesOn_ = true;
   bool isSilent_ = false;
   std::vector<std::string> passedOver_;

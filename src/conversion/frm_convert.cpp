@@ -1,12 +1,14 @@
 #include "conversion/frm_convert.h"
 
 #include <QCoreApplication>
+#include <QStyle>
 
 #include "picture/hooks.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
 #include "picture/write_bitmap.h"
+#include "platform/forms/notification.h"
 #include "platform/system/file_io.h"
 #include "platform/system/files.h"
 #include "platform/system/paths.h"
@@ -19,7 +21,10 @@ ConvertForm::ConvertForm()
             .Caption = "Convert Bitmap",
             .Client = {3975, 3015},
             .Position = forms::StartUpPosition::CentreOwner,
-            .ControlBox = false}) {}
+            .ControlBox = false}) {
+  cmdYes->setIcon(style()->standardIcon(QStyle::SP_DialogApplyButton));
+  cmdNo->setIcon(style()->standardIcon(QStyle::SP_DialogCancelButton));
+}
 
 void ConvertForm::Form_Load() {
   hooks.isConverting = [this] { return active() == this; };
@@ -48,12 +53,13 @@ void ConvertForm::incOpenProgress(std::int16_t num, std::int32_t times) {
 void ConvertForm::cmdYes_Click() {
   if (directoriesAreOne()) return hide();
   enableButtons(false);
-  convertSelection();
+  const std::string result = convertSelection();
   Progress1->paintNow();
   Progress2->paintNow();
   state.PictureFileName.clear();
   // Discards clicks and keys of the meantime: this window is modal and its buttons are disabled.
   QCoreApplication::processEvents();
+  forms::notify(result);
   enableButtons(true);
   hide();
 }
@@ -71,7 +77,8 @@ void ConvertForm::enableButtons(bool enabled) {
   if (!enabled) repaint();
 }
 
-void ConvertForm::convertSelection() {
+/// Returns what is to be said about it.
+std::string ConvertForm::convertSelection() {
   const sys::DirectoryHold hold(destinationDirectory());
   run_.emplace(sourceDirectory(), state.SelectedCount);
   PaletteNames names;
@@ -81,7 +88,9 @@ void ConvertForm::convertSelection() {
     convertFile(name, names);
   }
   run_->sumUp();
+  std::string result = run_->result();
   run_.reset();
+  return result;
 }
 
 /// Skips a picture that is refused: its name doesn't become that of the open picture.
@@ -94,7 +103,7 @@ void ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
   }
   if (name == state.PictureFileName) {
     count.current = 0;
-    static_cast<void>(WriteBitmap(sys::join(destinationDirectory(), name)));  // tells of failures
+    if (WriteBitmap(sys::join(destinationDirectory(), name))) run_->succeed();
   }
   Progress2->setValue(0);
 }

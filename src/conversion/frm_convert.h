@@ -37,7 +37,7 @@ class ConvertForm final : public forms::Form {
 
   bool directoriesAreOne() const;
   void enableButtons(bool enabled);
-  void convertSelection();
+  std::string convertSelection();
   void convertFile(const std::string& name, PaletteNames& names);
 
   std::optional<ConversionRun> run_;

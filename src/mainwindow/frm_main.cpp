@@ -1,6 +1,9 @@
 #include "mainwindow/frm_main.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMenu>
 
 #include "conversion/frm_convert.h"
 #include "conversion/frm_preview_toolbar.h"
@@ -21,12 +24,29 @@ MainForm::MainForm()
             .Position = forms::StartUpPosition::CentreScreen,
             .MinButton = true,
             .Icon = true}) {
-  // Qt alternates between ambiguous mnemonics; the menu "File" keeps this one.
+  // Qt alternates between ambiguous mnemonics; the menu "File" keeps this one, and in the menu the
+  // same letter once more means the button.
   cmdInfo->setShortcut({});
+  mnuFile->installEventFilter(this);
+  setAcceptDrops(true);
   auto* refresh = new QAction(this);
   refresh->setShortcut(Qt::Key_F5);
   connect(refresh, &QAction::triggered, this, [this] { refreshFiles(); });
   addAction(refresh);
+}
+
+bool MainForm::eventFilter(QObject* watched, QEvent* event) {
+  const bool isKey = watched == mnuFile && event->type() == QEvent::KeyPress;
+  if (!isKey || static_cast<QKeyEvent*>(event)->key() != Qt::Key_F || !cmdInfo->isEnabled()) {
+    return Form::eventFilter(watched, event);
+  }
+  // Leaving the menu and then its bar gives the focus back.
+  for (QWidget* open : {static_cast<QWidget*>(mnuFile), mnuFile->parentWidget()}) {
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(open, &escape);
+  }
+  QMetaObject::invokeMethod(cmdInfo, &QPushButton::click, Qt::QueuedConnection);
+  return true;
 }
 
 void MainForm::Form_Load() {

@@ -23,6 +23,7 @@ class MainForm final : public forms::Form {
   // Start-up and shut-down.
   void Form_Load() override;
   void Form_Unload() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void Form_Activate() override { mnuOptions->setEnabled(started_); }
   void Form_Resize() override;
   void fillBoxes();
@@ -31,6 +32,7 @@ class MainForm final : public forms::Form {
 
   // Folders and files.
   void changeEvent(QEvent* event) override;
+  void Form_Drop(const QWidget* on, const std::string& path) override;
   void refreshFiles();
   void lstSource_Change();
   void lstDest_Change() { warnIfDirectoriesAreOne(); }
@@ -44,6 +46,8 @@ class MainForm final : public forms::Form {
   void recordSelection();
   void offerCommandsForOne();
   void chooseDirectory(const char* caption, forms::ComboBox& box, std::string& directory);
+  static void useDirectory(const std::string& path, forms::ComboBox& box, std::string& directory);
+  void useDefaultPalette(const std::string& path);
 
   // Commands and check boxes.
   void cmdOpen_Click();

@@ -4,6 +4,7 @@
 #include "mainwindow/frm_main.h"
 #include "picture/program_state.h"
 #include "picture/warn.h"
+#include "platform/system/files.h"
 #include "platform/system/paths.h"
 
 namespace mill {
@@ -73,8 +74,11 @@ void MainForm::filSource_DblClick() {
 
 void MainForm::chooseDirectory(const char* caption, forms::ComboBox& box, std::string& directory) {
   browseForDirectory(caption, box.Text(), *this);
-  if (state.BrowseResult.empty()) return;
-  box.pick(state.BrowseResult);
+  if (!state.BrowseResult.empty()) useDirectory(state.BrowseResult, box, directory);
+}
+
+void MainForm::useDirectory(const std::string& path, forms::ComboBox& box, std::string& directory) {
+  box.pick(path);
   directory = box.Text();
 }
 
@@ -94,8 +98,27 @@ void MainForm::cmdBrowseDefault_Click() {
   browseForPalette(lstDefault->Text(), *this);
   if (state.BrowseResult.empty() || state.FileResult.empty()) return;
   state.FileResult = sys::join(state.BrowseResult, state.FileResult);
-  lstDefault->pick(state.FileResult);
-  state.DefaultPalette = state.FileResult;
+  useDefaultPalette(state.FileResult);
+}
+
+void MainForm::useDefaultPalette(const std::string& path) {
+  lstDefault->pick(path);
+  state.DefaultPalette = path;
+}
+
+/// Dropping does what browsing does. A folder goes to the box that it is dropped on, elsewhere to
+/// the source; a picture stands for its folder, and is selected there.
+void MainForm::Form_Drop(const QWidget* on, const std::string& path) {
+  if (path.ends_with(".pal")) return useDefaultPalette(path);
+  const bool isFolder = sys::isDirectory(path);
+  const std::string folder = isFolder ? path : std::string(sys::directoryOf(path));
+  const auto isOn = [on](const QWidget* box) { return on == box || box->isAncestorOf(on); };
+  if (isOn(lstDest)) return useDirectory(folder, *lstDest, state.DestDir);
+  if (isOn(lstPalette)) return useDirectory(folder, *lstPalette, state.PalDir);
+  useDirectory(folder, *lstSource, state.SourceDir);
+  if (isFolder) return;
+  filSource->select(std::string(sys::fileNameOf(path)));
+  filSource_Click();
 }
 
 }  // namespace mill

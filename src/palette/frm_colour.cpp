@@ -54,6 +54,7 @@ ColourForm::ColourForm()
             .Client = {5415, 5655},
             .Position = forms::StartUpPosition::CentreOwner,
             .ControlBox = false}) {
+  setAcceptDrops(true);
   cmdOK->setFocus();  // pressing Enter right away means OK
   QAction* const undo = changes_.createUndoAction(this);
   QAction* const redo = changes_.createRedoAction(this);
@@ -135,8 +136,7 @@ void ColourForm::cmdInvertAll_Click() {
 }
 
 std::string ColourForm::pickFile(const char* caption) {
-  directoryBefore_ = state.BrowseResult;
-  nameBefore_ = state.FileResult;
+  rememberFile();
   state.BrowseResult = state.DefaultPalette;
   state.FilePattern = "*.pal";
   frmSave->setCaption(caption);
@@ -149,6 +149,11 @@ std::string ColourForm::pickFile(const char* caption) {
   return {};
 }
 
+void ColourForm::rememberFile() {
+  directoryBefore_ = state.BrowseResult;
+  nameBefore_ = state.FileResult;
+}
+
 void ColourForm::keepFile() {
   state.BrowseResult = directoryBefore_;
   state.FileResult = nameBefore_;
@@ -156,7 +161,18 @@ void ColourForm::keepFile() {
 
 void ColourForm::cmdLoad_Click() {
   const std::string path = pickFile("Load Palette File");
-  if (path.empty()) return;
+  if (!path.empty()) loadFile(path);
+}
+
+void ColourForm::Form_Drop(const QWidget*, const std::string& path) {
+  if (!path.ends_with(".pal")) return;
+  rememberFile();
+  state.BrowseResult = sys::directoryOf(path);
+  state.FileResult = sys::fileNameOf(path);
+  loadFile(path);
+}
+
+void ColourForm::loadFile(const std::string& path) {
   std::string head;  // unused: files saved here get the head of the current palette
   ColourTable loaded;
   if (!readPaletteFile(path, head, loaded).isRead) return keepFile();

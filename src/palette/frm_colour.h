@@ -25,6 +25,7 @@ class ColourForm final : public forms::Form {
 
  private:
   void Form_Load() override;
+  void Form_Drop(const QWidget* on, const std::string& path) override;
   void txtIndex_Change();
   void cmdOK_Click();
   void cmdExtract_Click();
@@ -43,14 +44,16 @@ class ColourForm final : public forms::Form {
   void showNumbers(const ColourEntry& entry);
   /// Lets the user pick a file and returns its full path, empty on Cancel.
   std::string pickFile(const char* caption);
-  /// Restores the names that were set before `pickFile`.
+  void rememberFile();
+  /// Restores the names that were set before `rememberFile`.
   void keepFile();
+  void loadFile(const std::string& path);
 
   ColourTable WorkingPalette{};
   QUndoStack changes_;
   /// Whether `BrowseResult` and `FileResult` name a file loaded or saved here.
   bool hasFile_ = false;
-  std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `pickFile`
+  std::string directoryBefore_;  ///< `BrowseResult` and `FileResult` before `rememberFile`
   std::string nameBefore_;
 
   // clang-format off

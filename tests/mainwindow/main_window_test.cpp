@@ -110,6 +110,24 @@ TEST_F(MainWindow, OffersWhatSuitsTheSelectionAndConvertsAtADoubleClick) {
   EXPECT_EQ(state.PictureFileName, "a.bmp");  // opened again
 }
 
+TEST_F(MainWindow, TakesWhatIsDropped) {
+  folder.makeFolder("more");
+  folder.write("more/one \xFF.bmp", {});
+  start();
+  drop("frmMain", "lstDest", folder.path("more"));
+  drop("frmMain", "lstPalette", folder.path("in"));
+  drop("frmMain", "lstDefault", folder.path("any.pal"));
+  EXPECT_EQ(state.DestDir, folder.drive("more"));
+  EXPECT_EQ(state.PalDir, folder.drive("in"));
+  EXPECT_EQ(state.DefaultPalette, folder.drive("any.pal"));
+  drop("frmMain", "filSource", folder.path("pal"));
+  EXPECT_EQ(state.SourceDir, folder.drive("pal"));
+  drop("frmMain", "cmdExit", folder.path("more/one \xFF.bmp"));
+  EXPECT_EQ(state.SelectedFiles, Texts{"one \xFF.bmp"});
+  EXPECT_TRUE(isEnabled("frmMain", "cmdConvert"));
+  messages.texts();
+}
+
 TEST_F(MainWindow, OptionsAreStoredAtOKAndAtApplyAndNotAtCancel) {
   const std::string here = folder.drive(), old = here + "\\old.pal";
   state.SourceDir = "Z:\\HERE";

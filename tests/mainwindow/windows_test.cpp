@@ -40,7 +40,8 @@ bool fits(const QWidget* control) {
 void expectReadable(QAccessibleInterface* at, std::set<QString>& buttons) {
   const QString name = at->text(QAccessible::Name);
   const QAccessible::State state = at->state();
-  SCOPED_TRACE(name.toStdString() + " " + qPrintable(at->object() ? at->object()->objectName() : ""));
+  SCOPED_TRACE(name.toStdString() + " " +
+               qPrintable(at->object() ? at->object()->objectName() : ""));
   if (state.invisible) return;
   EXPECT_FALSE(state.focusable && name.isEmpty()) << at->role();
   EXPECT_FALSE(Qt::mightBeRichText(name + at->text(QAccessible::Description)));

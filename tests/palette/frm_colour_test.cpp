@@ -107,7 +107,8 @@ TEST_F(Editor, OKAdoptsTheFileLoadedOrSavedLast) {
       {"cmdLoad", "short.pal", "other.pal", &other, "The palette file is incomplete."}};
   for (const auto& [button, name, file, colours, text] : cases) {
     SCOPED_TRACE(name);
-    use("cmdLoad", "other.pal");
+    colours == &own ? test::drop(kForm, "palette1", folder.path("other.pal"))
+                    : use("cmdLoad", "other.pal");
     use(button, name);
     test::press(kForm, "cmdOK");
     EXPECT_FALSE(frmColour.isLoaded());

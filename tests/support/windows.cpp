@@ -1,12 +1,16 @@
 #include "support/windows.h"
 
+#include <QDropEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 #include <fstream>
@@ -93,6 +97,15 @@ void inModal(const std::function<void()>& open, const std::function<void()>& act
 
 void pressAndThen(const char* form, const char* button, const std::function<void()>& act) {
   inModal([&] { press(form, button); }, act);
+}
+
+void drop(const char* form, const char* on, const std::filesystem::path& path) {
+  const QWidget* target = control(form, on);
+  QMimeData files;
+  files.setUrls({QUrl::fromEncoded("file://" + QByteArray(path.c_str()).toPercentEncoding("/"))});
+  const QPoint at = target->mapTo(window(form), target->rect().center());
+  QDropEvent event(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(window(form)->windowHandle(), &event);
 }
 
 void type(const char* form, const char* box, const std::string& text) {

@@ -96,6 +96,8 @@ void press(const char* form, const char* button);
 void inModal(const std::function<void()>& open, const std::function<void()>& act);
 /// Presses a button that shows a window modally, and does `act` in there.
 void pressAndThen(const char* form, const char* button, const std::function<void()>& act);
+/// Drops a file or folder on a control.
+void drop(const char* form, const char* on, const std::filesystem::path& path);
 /// Makes `text` that of a line edit or combo box, as if typed.
 void type(const char* form, const char* box, const std::string& text);
 /// Processes all pending events, deferred deletions included.

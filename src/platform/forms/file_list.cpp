@@ -80,6 +80,12 @@ void FileList::reload() {
   setTexts(texts);
 }
 
+void FileList::select(const std::string& name) {
+  const auto row = static_cast<int>(texts().indexOf(sys::shown(name)));
+  clearSelection();
+  setCurrentIndex(model()->index(row, 0));
+}
+
 std::vector<std::string> FileList::selectedNames() const {
   const QStringList all = texts();
   std::vector<bool> isSelected(static_cast<std::size_t>(all.size()));

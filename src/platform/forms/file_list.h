@@ -26,6 +26,8 @@ class FileList final : public GestureList {
   /// Whether the directory has changed since it was read.
   bool isStale() const;
 
+  /// Selects this name alone, or nothing if it isn't listed.
+  void select(const std::string& name);
   /// The selected names, in list order.
   std::vector<std::string> selectedNames() const;
   /// The name at the current item; see `GestureList::chosenText`.

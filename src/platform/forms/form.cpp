@@ -8,7 +8,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -16,6 +18,7 @@
 
 #include "platform/forms/hourglass.h"
 #include "platform/forms/window_font.h"
+#include "platform/system/paths.h"
 #include "platform/system/text.h"
 
 namespace forms {
@@ -40,6 +43,15 @@ QIcon programIcon() {
   const QDir pictures(QStringLiteral(":/icon"));
   for (const QString& file : pictures.entryList()) icon.addFile(pictures.filePath(file));
   return icon;
+}
+
+/// The file or folder that is being dragged, in drive form; empty if it is anything else.
+std::string draggedPath(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  if (urls.isEmpty() || !urls.front().isLocalFile()) return {};
+  // A name is bytes, which Qt's own conversion would take for UTF-8.
+  const QByteArray path = urls.front().path(QUrl::FullyEncoded).toLatin1();
+  return sys::drivePath(QByteArray::fromPercentEncoding(path).toStdString());
 }
 
 }  // namespace
@@ -241,17 +253,30 @@ bool Form::passKey(QEvent* event) {
   return QCoreApplication::sendEvent(focus ? focus : active_.data(), event) && event->isAccepted();
 }
 
-/// Discards input that was queued before the window was hidden, such as the second half of a double
-/// click on its button.
+/// Takes a file or folder before a box would insert its path as text.
+bool Form::takeDrop(QDropEvent& event) {
+  const std::string path = draggedPath(event);
+  if (path.empty() || !acceptDrops() || isBlocked()) return false;
+  event.acceptProposedAction();
+  if (event.type() == QEvent::Drop) Form_Drop(childAt(event.position().toPoint()), path);
+  return true;
+}
+
+/// Also discards input that was queued before the window was hidden, such as the second half of a
+/// double click on its button.
 bool Form::eventFilter(QObject* watched, QEvent* event) {
-  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  if (watched != windowHandle()) return false;
+  const auto type = event->type();
+  if (type == QEvent::DragEnter || type == QEvent::DragMove || type == QEvent::Drop) {
+    return takeDrop(static_cast<QDropEvent&>(*event));
+  }
+  const bool isKey = type == QEvent::KeyPress || type == QEvent::KeyRelease;
   if (isKey && isAttached() && active_ && active_ != this) {
     QCoreApplication::sendEvent(active_->windowHandle(), event);
     return true;
   }
-  const bool isInput =
-      event->type() >= QEvent::MouseButtonPress && event->type() <= QEvent::KeyPress;
-  return watched == windowHandle() && !isVisible() && isInput;
+  const bool isInput = type >= QEvent::MouseButtonPress && type <= QEvent::KeyPress;
+  return !isVisible() && isInput;
 }
 
 void Form::closeEvent(QCloseEvent* event) {

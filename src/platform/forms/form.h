@@ -70,6 +70,9 @@ class Form : public QDialog, public Container {
   virtual void Form_Activate() {}
   /// Called when the size changes and when the window is minimised or restored.
   virtual void Form_Resize() {}
+  /// Called when the user drops a file or folder on a window that accepts drops; `on` is the
+  /// control below the mouse.
+  virtual void Form_Drop(const QWidget* /*on*/, const std::string& /*path*/) {}
 
   QMenu* menu(const char* name, const char* caption);
   QAction* menuItem(QMenu* menu, const char* name, const char* caption, const char* shortcut,
@@ -93,6 +96,7 @@ class Form : public QDialog, public Container {
   bool isAttached() const;
   void passFocus();
   static bool passKey(QEvent* event);
+  bool takeDrop(QDropEvent& event);
   void keepSize(const QSize& own);
   void showFocus();
   bool isBlocked() const;
