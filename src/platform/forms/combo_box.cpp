@@ -1,6 +1,7 @@
 #include "platform/forms/combo_box.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QWheelEvent>
@@ -15,6 +16,11 @@ namespace forms {
 void CalmComboBox::wheelEvent(QWheelEvent* event) {
   if (hasFocus() && view()->isVisible()) return QComboBox::wheelEvent(event);
   event->ignore();
+}
+
+void CalmComboBox::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  isEnter && !isEditable() ? event->ignore() : QComboBox::keyPressEvent(event);
 }
 
 ComboBox::ComboBox(QWidget* parent, std::function<void()> change, std::function<void()> click)

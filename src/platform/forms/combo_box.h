@@ -7,12 +7,14 @@
 
 namespace forms {
 
-/// Ignores the wheel over a closed box, which would change the value by accident.
+/// Ignores the wheel over a closed box, which would change the value by accident, and Enter, which
+/// opens the list on some desktops: it belongs to the default button.
 class CalmComboBox : public QComboBox {
  public:
   using QComboBox::QComboBox;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 };
 

@@ -335,6 +335,7 @@ QMenu* Form::menu(const char* name, const char* caption) {
   }
   QMenu* menu = menuBar_->addMenu(QString::fromUtf8(caption));
   menu->setObjectName(QString::fromUtf8(name));
+  menu->setFont(windowFont());
   return menu;
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/forms/form.h"
+#include "platform/forms/window_font.h"
 #include "platform/system/application.h"
 #include "platform/system/text.h"
 
@@ -53,6 +54,7 @@ Answer MsgBox(const Message& message) {
   Form* owner = Form::active();
   QMessageBox box(owner && owner->isVisible() ? owner : nullptr);
   box.setObjectName(QStringLiteral("MsgBox"));
+  box.setFont(windowFont());
   box.setWindowTitle(message.title.empty() ? sys::shown(sys::App.Title)
                                            : sys::shown(message.title));
   setTexts(box, message);
