@@ -54,6 +54,20 @@ stop() {
   rm -rf "$home"
 }
 
+# make_samples BIN OUT makes them, and the folder of their bitmaps, anew; OUT is $made then.
+make_samples() {
+  made=$(mkdir -p "$2" && realpath "$2")
+  [[ -e $made/program.log || ! $(ls -A "$made") ]] || fail "$made isn't an earlier one of these"
+  rm -rf "$made"/{pictures,palettes,converted} "$made"/*.{pal,png}
+  "$1/make-samples" samples "$made"
+}
+# use_samples lets the program start in their folders.
+use_samples() {
+  local path=Z:${made//\//\\\\}
+  printf '[Settings]\nSource="%s"\nDest="%s"\nPalDir="%s"\n' "$path\\\\pictures" \
+    "$path\\\\converted" "$path\\\\palettes" >"$XDG_CONFIG_HOME/RasterMill.ini"
+}
+
 start_program() {
   "$1" >"$out/program.log" 2>&1 &
   program=$!

@@ -4,9 +4,7 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-made=$(mkdir -p "$2" && realpath "$2")
-rm -rf "$made"/{pictures,palettes,converted} "$made"/*.pal
-"$1/make-samples" samples "$made"
+make_samples "$1" "$2"
 start_screen 1700 1100 "$made"
 start_program "$1/raster-mill"
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Leads the built program through all of its windows, as a person would: real mouse and key events
-# on a virtual screen, from an empty home and a first start to converted pictures.
+# on a virtual screen, from the first preview to converted pictures.
 #   tour.sh BIN OUT
 # BIN holds the built programs; OUT gets the samples, their bitmaps, and a picture of each window.
 set -euo pipefail
@@ -8,8 +8,6 @@ source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
 # Where to click, in twips: the main window, the palette tools, and the other windows.
 declare -A place=(
-  [Source]="1800 510" [Destination]="6000 510" [Palette]="5600 2310"
-  [browse Source]="3540 120" [browse Destination]="7980 120" [browse Palette]="7620 1920"
   [default]="5600 3030" [browse default]="7620 2640" [Show Preview window]="3840 1085"
   [Preview]="780 4440" [Batch]="3720 4440"
   [swatch 108]="3120 1680" [red]="1000 4222" [Set New]="4690 3660"
@@ -33,14 +31,6 @@ at() {
   [[ $1 != "Raster Mill" ]] || size=(8535 4815)  # the one that has a menu bar
   wait_for_window "$1" "${size[@]}"
   "${@:2}"
-}
-
-# browse WHAT KEY... types the path above a folder and browses to the folder with these keys.
-browse() {
-  at "Raster Mill" fill "$1" "$made"
-  click "browse $1"
-  at "Browse for $1 Directory" press Tab "${@:2}"
-  press Return
 }
 
 # select_file NAME clicks at it in the list of the main window, which doesn't tell case apart.
@@ -68,23 +58,18 @@ shows_bitmap() {
 # pixels_in FILE prints a bitmap as a portable pixmap. The reader knows nothing of this program.
 pixels_in() { bmptopnm "$1" | ppmtoppm; } 2>/dev/null
 
-mkdir -p "$2"
-made=$(realpath "$2") pictures=$made/pictures palettes=$made/palettes converted=$made/converted
-[[ -e $made/program.log || ! $(ls -A "$made") ]] || fail "$made isn't an earlier tour"
-rm -rf "$pictures" "$palettes" "$converted" "$made"/*.{pal,png}
-"$1/make-samples" samples "$made"
+make_samples "$1" "$2"
+pictures=$made/pictures palettes=$made/palettes converted=$made/converted
 start_screen 2000 1200 "$made"
+use_samples
 
-# The folders, and the default palette. The windows move apart, so that none hides another.
+# The default palette. The windows move apart, so that none hides another.
 start_program "$1/raster-mill"
 wait_until "the preview" find_window Preview
 preview=$found
 wait_until "the swatches" find_window "Palette (base.pal)"
 at "Raster Mill" xdotool windowmove "$preview" 20 40 windowmove "$found" 1320 600
 xdotool windowmove --sync "$window" 1320 100
-browse Destination Down
-browse Palette Down Down
-browse Source Down Down Down
 at "Raster Mill" fill default "$palettes/day/"
 click "browse default"
 at "Browse for Palette File" click "second file"

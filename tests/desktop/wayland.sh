@@ -6,13 +6,10 @@
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
-bin=$1 made=$(mkdir -p "$2" && realpath "$2")
-rm -rf "$made"/{pictures,palettes,converted}
-"$bin/make-samples" samples "$made"
+bin=$1
+make_samples "$bin" "$2"
 start_screen 1700 1100 "$made"
-path=Z:${made//\//\\\\}
-printf '[Settings]\nSource="%s"\nDest="%s"\nPalDir="%s"\n' "$path\\\\pictures" \
-  "$path\\\\converted" "$path\\\\palettes" >"$XDG_CONFIG_HOME/RasterMill.ini"
+use_samples
 
 # start_compositor COMMAND... Sway refuses to run as root.
 start_compositor() {
