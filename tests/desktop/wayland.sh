@@ -33,13 +33,12 @@ weston_has() {
   awk -v wanted="$1" '/get_toplevel[(]/ { ++n; keys = 0 } /xdg_toplevel@[0-9]+.destroy/ { --n; keys = 0 }
     /wl_keyboard.*enter/ { keys = 1 } END { exit !(n == wanted && keys) }' "$out/program.log"
 }
-weston_fits() { true; }
+weston_fits() { import -window root "$made/weston.png"; }
 weston_keys() { xdotool key --delay 100 "$@"; }
-weston_picture() { import -window root "$made/weston.png"; }
 
 # All windows float.
 sway_has() { [[ $(sway_tree) != *'"type":"con"'* && $(sway_tree | grep -o floating_con | wc -l) -eq $1 ]]; }
-sway_fits() { [[ $(sway_tree) =~ \"window_rect\":[^}]*\"width\":256,\"height\":256 ]]; }
+sway_fits() { grim "$made/sway.png" && [[ $(sway_tree) =~ \"window_rect\":[^}]*\"width\":256,\"height\":256 ]]; }
 sway_tree() { swaymsg --raw -t get_tree | tr -d ' \n'; }
 sway_keys() {
   local key keys=()
@@ -48,7 +47,6 @@ sway_keys() {
   done
   wtype -s 300 "${keys[@]}"
 }
-sway_picture() { grim "$made/sway.png"; }
 
 # convert_a_picture COMPOSITOR
 convert_a_picture() {
@@ -58,7 +56,6 @@ convert_a_picture() {
   "$1_keys" Tab Tab Tab Tab Down ctrl+o
   wait_until "the preview" test -s "$temp/temp.bmp"
   wait_until "the preview in its size" "$1_fits"
-  "$1_picture"
   "$1_keys" ctrl+c
   wait_until "the question" "$1_has" 4
   wait_until "the preview in its size still" "$1_fits"

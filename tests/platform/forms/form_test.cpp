@@ -137,11 +137,9 @@ TEST_F(Controls, TreeShowsNewDirectoriesAndOpensNoneByTheStarKey) {
   EXPECT_FALSE(tree.isExpanded(tree.currentIndex()));
 }
 
-TEST_F(Controls, SwatchesMarkTheCurrentColourAndAreChosenByKeyboard) {
-  std::string chosen;
-  forms::Swatches view(nullptr, [&](int index) { chosen += std::to_string(index) + " "; });
-  for (const ColourEntry background :
-       {ColourEntry{255, 255, 255}, ColourEntry{}, ColourEntry{200, 10, 30}}) {
+TEST_F(Controls, SwatchesMarkTheCurrentColour) {
+  forms::Swatches view(nullptr, [](int) {});
+  for (const ColourEntry background : {ColourEntry{255, 255, 255}, ColourEntry{}}) {
     ColourTable colours;
     colours.fill(background);
     view.setColours(colours);
@@ -150,9 +148,6 @@ TEST_F(Controls, SwatchesMarkTheCurrentColourAndAreChosenByKeyboard) {
     view.setCurrent(92);
     EXPECT_NE(before, painted(&view));
   }
-  for (const auto key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Space}) QTest::keyClick(&view, key);
-  EXPECT_EQ(chosen, "108 108 ");
-  EXPECT_EQ(view.currentIndex().data(Qt::ToolTipRole), "Entry 108: 200, 10, 30 (#C80A1E)");
 }
 
 TEST_F(Controls, ElidedLabelShowsBothEndsOfAPath) {
