@@ -10,6 +10,7 @@ test_packages=(libgtest-dev libbenchmark-dev)
 desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
 wayland_packages=(weston sway wtype grim qt6-wayland)
 fuzz_packages=(clang libclang-rt-14-dev)
+package_packages=(dpkg-dev file lintian appstream desktop-file-utils)
 format_packages=(clang-format)
 
 # need PACKAGE... installs those that are missing. If none is, it neither asks for a password
