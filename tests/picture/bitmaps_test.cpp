@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <sstream>
 #include <sys/stat.h>
 
 #include "picture/hooks.h"
@@ -52,6 +53,32 @@ class BitmapsTest : public WindowTest {
   const Bytes converted = convertedBitmap(kestrel, someColours(3));
   const Bytes standard = convertedBitmap(kestrel, someColours(1));
 };
+
+/// The bytes of an example in the document of the formats.
+Bytes example(const std::string& name) {
+  const Bytes file = readFile(MILL_DOCS "/formats.md");
+  const std::string document(file.begin(), file.end()), mark = "```hex " + name + "\n";
+  const std::size_t begin = document.find(mark) + mark.size();
+  std::istringstream digits(document.substr(begin, document.find("```", begin) - begin));
+  Bytes bytes;
+  for (unsigned byte; digits >> std::hex >> byte;) bytes.push_back(std::uint8_t(byte));
+  return bytes;
+}
+Bytes operator+(Bytes a, const Bytes& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+TEST_F(BitmapsTest, TheDocumentedExamplesAreWhatTheProgramDoes) {
+  state.PaletteTable.fill({9, 9, 9, 9});
+  open("documented.bmp", example("kestrel"));
+  expectOpen("documented.bmp", example("headers") + Bytes(1024, 9) + example("rows"));
+  EXPECT_EQ(state.PictureRecord.PaletteIndex, 7);
+  state.PaletteTable[0] = {0x10, 0x20, 0x30, 255};
+  state.PaletteTable[1] = {0x10, 0x20, 0x30, 0};
+  EXPECT_EQ(example("list") + Bytes(1016, 9) + example("record-end"),
+            model::paletteList({{state.PaletteTable, 7}}));
+}
 
 TEST_F(BitmapsTest, RowsOfEveryShapeAreConverted) {
   const std::pair<const char*, model::Kestrel> shapes[] = {
