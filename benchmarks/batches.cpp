@@ -131,18 +131,19 @@ Result measureHere(const Place& place, const std::string& what, const Work& work
 }
 
 /// Measures in a process of its own, since a second run finds its memory already there.
-Result measureApart(const fs::path& folder, const char* what, int work) {
+Result measureApart(const fs::path& folder, const char* what, const Work& work) {
   const Place place(folder);
   empty(place.target);
   QProcess process;
   process.start(
       QCoreApplication::applicationFilePath(),
-      {QString::fromStdString(folder.string()), QLatin1String(what), QString::number(work)});
+      {QString::fromStdString(folder.string()), QLatin1String(what), QString::number(work.count),
+       QString::number(work.width), QString::number(work.height)});
   process.waitForFinished(-1);
   std::istringstream numbers(process.readAllStandardOutput().toStdString());
   Result result;
   numbers >> result.processor >> result.elapsed >> result.painting >> result.peak;
-  require(!numbers.fail() && holds(place.target, kWorks[work].count),
+  require(!numbers.fail() && holds(place.target, work.count),
           "every picture was converted: " + numbers.str());
   return result;
 }
@@ -153,14 +154,13 @@ std::vector<double> each(const std::vector<Result>& results, double Result::*val
   return values;
 }
 
-void compare(const fs::path& folder, int index) {
-  const Work& work = kWorks[index];
+void compare(const fs::path& folder, const Work& work) {
   std::vector<Result> plain, window, search;
   std::vector<double> ratios, searchRatios;
   for (int i = 0; i < kRuns; ++i) {
-    plain.push_back(measureApart(folder, "plain", index));
-    window.push_back(measureApart(folder, "window", index));
-    search.push_back(measureApart(folder, "search", index));
+    plain.push_back(measureApart(folder, "plain", work));
+    window.push_back(measureApart(folder, "window", work));
+    search.push_back(measureApart(folder, "search", work));
     ratios.push_back(window.back().processor / plain.back().processor);
     searchRatios.push_back(search.back().processor / plain.back().processor);
   }
@@ -182,15 +182,23 @@ void runBatches(const fs::path& folder) {
   makePalettes(place.palettes, kPaletteFolders);
   std::printf("%-18s %8s %7s %9s %9s %9s %6s %6s %5s %8s %8s %8s\n", "", "pic/s", "MB/s", "cpu ms",
               "ms", "plain ms", "ratio", "most", "aim", "painting", "peak MB", "palettes");
-  for (int i = 0; i < static_cast<int>(std::size(kWorks)); ++i) {
+  for (const Work& work : kWorks) {
     empty(place.source);
-    makePictures(place.source, kWorks[i].count, kWorks[i].width, kWorks[i].height);
-    compare(folder, i);
+    makePictures(place.source, work.count, work.width, work.height);
+    compare(folder, work);
   }
 }
 
-void runBatch(const fs::path& folder, const std::string& what, int work) {
-  const Result result = measureHere(Place(folder), what, kWorks[work]);
+void runBatch(const fs::path& folder, const std::string& what, int count, int width, int height) {
+  const Place place(folder);
+  if (what == "make") {
+    empty(place.source);
+    empty(place.target);
+    makePictures(place.source, count, width, height);
+    makePalettes(place.palettes, kPaletteFolders);
+    return;
+  }
+  const Result result = measureHere(place, what, {"", count, width, height, ""});
   std::printf("%.9f %.9f %.9f %.3f\n", result.processor, result.elapsed, result.painting,
               result.peak);
 }

@@ -30,14 +30,20 @@ class NoMessages final : public QObject {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 2 && argc != 4) {
-    std::fprintf(stderr, "usage: window-bench FOLDER\n");
+  if (argc != 2 && argc != 3 && argc != 6) {
+    std::fprintf(stderr,
+                 "usage: window-bench FOLDER [windows | make|plain|window|search COUNT W H]\n");
     return 2;
   }
   const forms::Desktop desktop(argv[0]);
   const NoMessages noMessages;
-  if (argc == 4) {
-    mill::bench::runBatch(argv[1], argv[2], std::atoi(argv[3]));
+  if (argc == 6) {
+    mill::bench::runBatch(argv[1], argv[2], std::atoi(argv[3]), std::atoi(argv[4]),
+                          std::atoi(argv[5]));
+    return 0;
+  }
+  if (argc == 3) {
+    mill::bench::runWindows(argv[1]);
     return 0;
   }
   std::printf(

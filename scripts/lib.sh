@@ -11,6 +11,7 @@ desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
 wayland_packages=(weston sway wtype grim qt6-wayland)
 fuzz_packages=(clang libclang-rt-14-dev)
 package_packages=(dpkg-dev file lintian appstream desktop-file-utils)
+page_packages=(python3-matplotlib python3-pil imagemagick netpbm)
 format_packages=(clang-format)
 
 # need PACKAGE... installs those that are missing. If none is, it neither asks for a password

@@ -48,6 +48,8 @@ sway_keys() {
   wtype -s 300 "${keys[@]}"
 }
 
+# Libraries that leak are unloaded before they could be recognised.
+export LSAN_OPTIONS=detect_leaks=0
 # convert_a_picture COMPOSITOR
 convert_a_picture() {
   rm -f "$temp"/* "$made"/converted/*
