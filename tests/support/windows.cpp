@@ -1,5 +1,6 @@
 #include "support/windows.h"
 
+#include <QAccessible>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -45,6 +46,7 @@ bool Messages::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Messages::answer(QMessageBox& box) {
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&box)->role(), QAccessible::AlertMessage);
   said_.push_back({box.text().toStdString(), box.windowTitle().toStdString(), box.icon()});
   if (meanwhile) meanwhile();
   const bool asks = box.standardButtons().testFlag(QMessageBox::No);

@@ -110,10 +110,9 @@ void Form::setCaption(const std::string& caption) {
 
 void Form::setVisible(bool visible) {
   if (visible) {
-    Form& main = *loaded_.front();
-    if (isAttached() && !main.isVisible()) {
-      if (!main.isHidden()) return;  // it is about to be shown, for this window's sake
-      main.show();
+    if (isAttached() && !loaded_.front()->isVisible()) {
+      if (!loaded_.front()->isHidden()) return;  // it is about to be shown, for this window's sake
+      loaded_.front()->show();
     }
     place();
     if (!isVisible()) showFocus();
@@ -231,7 +230,7 @@ bool Form::event(QEvent* event) {
       isAttached() ? passFocus() : activated();
       break;
     case QEvent::ShortcutOverride:
-      if (isAttached() && active_) return passKey(event);
+      if (passesKeys()) return passKey(event);
       break;
     default:
       break;
@@ -243,9 +242,13 @@ bool Form::event(QEvent* event) {
 /// when the main window is clicked. The window in use stays active and gets the keys.
 void Form::passFocus() {
   const auto pass = [] {
-    if (active_) QApplication::setActiveWindow(active_);
+    if (active_ && !active_->isBlocked()) QApplication::setActiveWindow(active_);
   };
   QMetaObject::invokeMethod(this, pass, Qt::QueuedConnection);
+}
+
+bool Form::passesKeys() const {
+  return isAttached() && active_ && active_ != this;
 }
 
 bool Form::passKey(QEvent* event) {
@@ -271,7 +274,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
     return takeDrop(static_cast<QDropEvent&>(*event));
   }
   const bool isKey = type == QEvent::KeyPress || type == QEvent::KeyRelease;
-  if (isKey && isAttached() && active_ && active_ != this) {
+  if (isKey && passesKeys()) {
     QCoreApplication::sendEvent(active_->windowHandle(), event);
     return true;
   }

@@ -95,6 +95,7 @@ class Form : public QDialog, public Container {
   void place();
   bool isAttached() const;
   void passFocus();
+  bool passesKeys() const;
   static bool passKey(QEvent* event);
   bool takeDrop(QDropEvent& event);
   void keepSize(const QSize& own);
