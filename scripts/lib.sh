@@ -6,7 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # Debian 12 packages, by purpose.
 build_packages=(qt6-base-dev cmake ninja-build g++ fonts-liberation)
-test_packages=(libgtest-dev libbenchmark-dev)
+test_packages=(libgtest-dev libbenchmark-dev fonts-dejavu-core)
 desktop_packages=(xvfb openbox xdotool imagemagick netpbm)
 wayland_packages=(weston sway wtype grim qt6-wayland)
 fuzz_packages=(clang libclang-rt-14-dev)
