@@ -9,7 +9,9 @@ made=$PWD/build/packages
 root=$(mktemp -d)
 trap 'rm -rf "$root"' EXIT
 # Debian's packages come from where this machine gets its own.
-mmdebstrap --quiet --variant=apt bookworm "$root" - </etc/apt/sources.list.d/debian.sources
+sources=/etc/apt/sources.list.d/debian.sources
+[[ -e $sources ]] || sources=/etc/apt/sources.list
+mmdebstrap --quiet --variant=apt bookworm "$root" - <"$sources"
 # A path of the root means the same file inside and outside of it.
 mkdir -p "$root$(dirname "$root")" "$root/walk"
 ln -s / "$root$root"

@@ -53,13 +53,12 @@ void ConvertForm::incOpenProgress(std::int16_t num, std::int32_t times) {
 void ConvertForm::cmdYes_Click() {
   if (directoriesAreOne()) return hide();
   enableButtons(false);
-  const std::string result = convertSelection();
+  convertSelection();
   Progress1->paintNow();
   Progress2->paintNow();
   state.PictureFileName.clear();
   // Discards clicks and keys of the meantime: this window is modal and its buttons are disabled.
   QCoreApplication::processEvents();
-  forms::notify(result);
   enableButtons(true);
   hide();
 }
@@ -77,8 +76,7 @@ void ConvertForm::enableButtons(bool enabled) {
   if (!enabled) repaint();
 }
 
-/// Returns what is to be said about it.
-std::string ConvertForm::convertSelection() {
+void ConvertForm::convertSelection() {
   const sys::DirectoryHold hold(destinationDirectory());
   run_.emplace(sourceDirectory(), state.SelectedCount);
   PaletteNames names;
@@ -87,10 +85,9 @@ std::string ConvertForm::convertSelection() {
     run_->next(name);
     convertFile(name, names);
   }
+  forms::notify(run_->result());
   run_->sumUp();
-  std::string result = run_->result();
   run_.reset();
-  return result;
 }
 
 /// Skips a picture that is refused: its name doesn't become that of the open picture.

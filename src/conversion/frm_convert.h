@@ -37,7 +37,7 @@ class ConvertForm final : public forms::Form {
 
   bool directoriesAreOne() const;
   void enableButtons(bool enabled);
-  std::string convertSelection();
+  void convertSelection();
   void convertFile(const std::string& name, PaletteNames& names);
 
   std::optional<ConversionRun> run_;

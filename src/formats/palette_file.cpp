@@ -1,7 +1,7 @@
 // Palette file.
 //
 //   offset  size  content
-//        0    24  opaque head; files are written with the head of the file read last
+//        0    24  opaque head; files are written with the head of the current palette
 //       24  1024  256 colours: Blue, Green, Red, Extra
 //
 // Anything after that is ignored. If the head has another length, the colours follow it directly.

@@ -109,14 +109,16 @@ void MainForm::useDefaultPalette(const std::string& path) {
 /// Dropping does what browsing does. A folder goes to the box that it is dropped on, elsewhere to
 /// the source; a picture stands for its folder, and is selected there.
 void MainForm::Form_Drop(const QWidget* on, const std::string& path) {
-  if (path.ends_with(".pal")) return useDefaultPalette(path);
   const bool isFolder = sys::isDirectory(path);
+  if (!isFolder && sys::hasExtension(path, ".pal")) return useDefaultPalette(path);
+  if (!isFolder && !sys::hasExtension(path, ".bmp")) return;
   const std::string folder = isFolder ? path : std::string(sys::directoryOf(path));
   const auto isOn = [on](const QWidget* box) { return on == box || box->isAncestorOf(on); };
   if (isOn(lstDest)) return useDirectory(folder, *lstDest, state.DestDir);
   if (isOn(lstPalette)) return useDirectory(folder, *lstPalette, state.PalDir);
   useDirectory(folder, *lstSource, state.SourceDir);
   if (isFolder) return;
+  if (filSource->isStale()) refreshFiles();
   filSource->select(std::string(sys::fileNameOf(path)));
   filSource_Click();
 }

@@ -165,7 +165,7 @@ void ColourForm::cmdLoad_Click() {
 }
 
 void ColourForm::Form_Drop(const QWidget*, const std::string& path) {
-  if (!path.ends_with(".pal")) return;
+  if (!sys::hasExtension(path, ".pal")) return;
   rememberFile();
   state.BrowseResult = sys::directoryOf(path);
   state.FileResult = sys::fileNameOf(path);

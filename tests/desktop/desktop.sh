@@ -58,6 +58,7 @@ stop() {
 make_samples() {
   made=$(mkdir -p "$2" && realpath "$2")
   [[ -e $made/program.log || ! $(ls -A "$made") ]] || fail "$made isn't an earlier one of these"
+  touch "$made/program.log"
   rm -rf "$made"/{pictures,palettes,converted} "$made"/*.{pal,png}
   "$1/make-samples" samples "$made"
 }

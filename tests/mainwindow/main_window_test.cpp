@@ -116,12 +116,16 @@ TEST_F(MainWindow, TakesWhatIsDropped) {
   start();
   drop("frmMain", "lstDest", folder.path("more"));
   drop("frmMain", "lstPalette", folder.path("in"));
-  drop("frmMain", "lstDefault", folder.path("any.pal"));
+  drop("frmMain", "lstDefault", folder.path("any.PAL"));
   EXPECT_EQ(state.DestDir, folder.drive("more"));
   EXPECT_EQ(state.PalDir, folder.drive("in"));
-  EXPECT_EQ(state.DefaultPalette, folder.drive("any.pal"));
+  EXPECT_EQ(state.DefaultPalette, folder.drive("any.PAL"));
   drop("frmMain", "filSource", folder.path("pal"));
   EXPECT_EQ(state.SourceDir, folder.drive("pal"));
+  drop("frmMain", "cmdExit", folder.path("more"));
+  folder.write("more/new.bmp", {});
+  drop("frmMain", "cmdExit", folder.path("more/new.bmp"));
+  EXPECT_EQ(state.SelectedFiles, Texts{"new.bmp"});
   drop("frmMain", "cmdExit", folder.path("more/one \xFF.bmp"));
   EXPECT_EQ(state.SelectedFiles, Texts{"one \xFF.bmp"});
   EXPECT_TRUE(isEnabled("frmMain", "cmdConvert"));

@@ -108,6 +108,7 @@ void drop(const char* form, const char* on, const std::filesystem::path& path) {
   const QPoint at = target->mapTo(window(form), target->rect().center());
   QDropEvent event(at, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
   QCoreApplication::sendEvent(window(form)->windowHandle(), &event);
+  settle();
 }
 
 void type(const char* form, const char* box, const std::string& text) {

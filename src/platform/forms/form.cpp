@@ -166,7 +166,7 @@ void Form::place() {
 /// Wayland compositors place windows themselves. They keep a tool window near the window that it is
 /// attached to, and let it float even if they tile the others.
 bool Form::isAttached() const {
-  return isTool() && loaded_.front() != this &&
+  return isTool() && !loaded_.empty() && loaded_.front() != this &&
          QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
@@ -260,8 +260,15 @@ bool Form::passKey(QEvent* event) {
 bool Form::takeDrop(QDropEvent& event) {
   const std::string path = draggedPath(event);
   if (path.empty() || !acceptDrops() || isBlocked()) return false;
-  event.acceptProposedAction();
-  if (event.type() == QEvent::Drop) Form_Drop(childAt(event.position().toPoint()), path);
+  // The file is read, not moved, whatever the other program proposes.
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+  if (event.type() != QEvent::Drop) return true;
+  // Later, since handlers may open windows, and the other program waits for the end of the drop.
+  const auto drop = [this, path, on = QPointer(childAt(event.position().toPoint()))] {
+    if (!isBlocked()) Form_Drop(on, path);
+  };
+  QMetaObject::invokeMethod(this, drop, Qt::QueuedConnection);
   return true;
 }
 

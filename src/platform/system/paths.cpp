@@ -77,4 +77,12 @@ std::string_view directoryOf(std::string_view path) {
   return end == std::string_view::npos ? std::string_view() : path.substr(0, end);
 }
 
+bool hasExtension(std::string_view path, std::string_view extension) {
+  const auto isLetter = [](char a, char b) {
+    return std::tolower(static_cast<unsigned char>(a)) == b;
+  };
+  return path.size() >= extension.size() &&
+         std::equal(path.end() - std::ssize(extension), path.end(), extension.begin(), isLetter);
+}
+
 }  // namespace sys

@@ -26,6 +26,8 @@ std::string join(std::string_view directory, std::string_view name);
 
 /// The part after the last backslash of `path`.
 std::string_view fileNameOf(std::string_view path);
+/// Whether `path` ends in `extension`, such as ".pal", in large or small letters.
+bool hasExtension(std::string_view path, std::string_view extension);
 /// The part before the last backslash of `path`.
 std::string_view directoryOf(std::string_view path);
 
