@@ -42,6 +42,7 @@ forms::Answer ConversionRun::tell(forms::Message message) {
     if (passedOver_.empty() || passedOver_.back() != name_) passedOver_.push_back(name_);
     return forms::Answer::OK;
   }
+  paletteNames_.forget();
   std::string where = whichPicture();
   if (!message.informative.empty()) where.append("\n").append(message.informative);
   message.informative = std::move(where);
@@ -55,12 +56,25 @@ forms::Answer ConversionRun::tell(forms::Message message) {
   return forms::Answer::OK;
 }
 
+void ConversionRun::succeed() {
+  ++converted_;
+  if (passedOver_.empty() || passedOver_.back() != name_) return;
+  passedOver_.pop_back();
+  warnedOf_.push_back(name_);
+}
+
 void ConversionRun::sumUp() const {
-  if (passedOver_.empty()) return;
-  std::string names;
-  for (const std::string& name : passedOver_) names += name + "\n";
-  const auto number = static_cast<int>(passedOver_.size());
-  forms::MsgBox({.text = share(number, count_) + " pictures were passed over.",
+  std::string text, names;
+  const auto add = [&](const std::vector<std::string>& pictures, const char* what) {
+    if (pictures.empty()) return;
+    if (!text.empty()) text += "\n", names += "\n";
+    text.append(share(static_cast<int>(pictures.size()), count_)).append(what);
+    for (const std::string& name : pictures) names.append(name).append("\n");
+  };
+  add(passedOver_, " pictures were passed over.");
+  add(warnedOf_, " pictures were converted with a warning.");
+  if (text.empty()) return;
+  forms::MsgBox({.text = std::move(text),
                  .title = kWarning,
                  .icon = forms::Icon::Critical,
                  .details = std::move(names)});

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "picture/find_palette.h"
 #include "platform/forms/msg_box.h"
 
 namespace mill {
@@ -19,6 +20,8 @@ class ConversionRun {
   void next(const std::string& name);
   /// False once the user has ended the run.
   bool goesOn() const { return goesOn_; }
+  /// For the searches of this run.
+  PaletteNames& paletteNames() { return paletteNames_; }
 
   /// Shows a message about the current picture. One with a choice of answers is a question, any
   /// other a failure.
@@ -28,8 +31,8 @@ class ConversionRun {
   /// "3 of 20,000", and on a second line the path of the current picture.
   std::string whichPicture() const;
   /// The current picture has been converted.
-  void succeed() { ++converted_; }
-  /// Tells what was passed over, if anything.
+  void succeed();
+  /// Tells which messages weren't shown, if any.
   void sumUp() const;
   /// "1,990 of 2,000 pictures were converted."
   std::string result() const;
@@ -43,7 +46,10 @@ class ConversionRun {
   int converted_ = 0;
   bool goesOn_ = true;
   bool isSilent_ = false;
+  PaletteNames paletteNames_;
   std::vector<std::string> passedOver_;
+  /// Converted although a message about them wasn't shown.
+  std::vector<std::string> warnedOf_;
 };
 
 }  // namespace mill

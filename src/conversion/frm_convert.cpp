@@ -31,7 +31,8 @@ void ConvertForm::Form_Load() {
   hooks.startProgress = [this](std::int32_t total) { count.total = total; };
   hooks.incOpenProgress = [this](std::int16_t num, std::int32_t n) { incOpenProgress(num, n); };
   hooks.tell = [this](const forms::Message& message) {
-    return run_ ? run_->tell(message) : forms::MsgBox(message);
+    // What the chooser's own preview says isn't about the run.
+    return run_ && active() == this ? run_->tell(message) : forms::MsgBox(message);
   };
   for (auto* bar : {Progress1, Progress2}) {
     bar->subject = [this] { return run_ ? sys::shown(run_->progressText()) : QString(); };
@@ -79,11 +80,10 @@ void ConvertForm::enableButtons(bool enabled) {
 void ConvertForm::convertSelection() {
   const sys::DirectoryHold hold(destinationDirectory());
   run_.emplace(sourceDirectory(), state.SelectedCount);
-  PaletteNames names;
   for (std::int32_t i = 0; i < state.SelectedCount && run_->goesOn(); ++i) {
     const std::string& name = state.SelectedFiles[static_cast<std::size_t>(i)];
     run_->next(name);
-    convertFile(name, names);
+    convertFile(name);
   }
   forms::notify(run_->result());
   run_->sumUp();
@@ -91,12 +91,12 @@ void ConvertForm::convertSelection() {
 }
 
 /// Skips a picture that is refused: its name doesn't become that of the open picture.
-void ConvertForm::convertFile(const std::string& name, PaletteNames& names) {
+void ConvertForm::convertFile(const std::string& name) {
   Progress2->setValue(100);
   Progress1->setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
-    OpenPicture(sys::join(sourceDirectory(), name), &names);
+    OpenPicture(sys::join(sourceDirectory(), name), &run_->paletteNames());
   }
   if (name == state.PictureFileName) {
     count.current = 0;

@@ -7,7 +7,6 @@
 
 #include "conversion/conversion_run.h"
 #include "formats/progress_count.h"
-#include "picture/find_palette.h"
 #include "platform/forms/form.h"
 #include "platform/forms/progress_bar.h"
 
@@ -38,7 +37,7 @@ class ConvertForm final : public forms::Form {
   bool directoriesAreOne() const;
   void enableButtons(bool enabled);
   void convertSelection();
-  void convertFile(const std::string& name, PaletteNames& names);
+  void convertFile(const std::string& name);
 
   std::optional<ConversionRun> run_;
 

@@ -13,7 +13,7 @@ BrowseForm::BrowseForm()
             .Icon = true}) {}
 
 void BrowseForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) startAt(*Drive1, *Dir1, state.BrowseResult);
+  startAt(*Drive1, *Dir1, state.BrowseResult);
 }
 
 void BrowseForm::OKButton_Click() {

@@ -14,11 +14,12 @@ FileBrowseForm::FileBrowseForm()
             .At = {2760, 3750}}) {}
 
 void FileBrowseForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) startAtFile(*Drive1, *Dir1, state.BrowseResult);
+  startAtFile(*Drive1, *Dir1, state.BrowseResult);
   File1->setPattern(state.FilePattern);
 }
 
 void FileBrowseForm::cmdOK_Click() {
+  if (!isStillThere(*Drive1, *Dir1)) return;
   state.BrowseResult = Dir1->Path();
   state.FileResult = File1->FileName();
   hide();

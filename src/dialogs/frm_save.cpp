@@ -14,12 +14,12 @@ SaveForm::SaveForm()
             .Icon = true}) {}
 
 void SaveForm::Form_Activate() {
-  if (!state.BrowseResult.empty()) startAtFile(*Drive1, *Dir1, state.BrowseResult);
+  startAtFile(*Drive1, *Dir1, state.BrowseResult);
   File1->setPattern(state.FilePattern);
 }
 
 void SaveForm::cmdOK_Click() {
-  if (txtFilename->text().isEmpty()) return;
+  if (txtFilename->text().isEmpty() || !isStillThere(*Drive1, *Dir1)) return;
   state.BrowseResult = Dir1->Path();
   state.FileResult = sys::bytesOf(txtFilename->text());
   hide();

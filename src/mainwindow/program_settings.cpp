@@ -41,15 +41,29 @@ constexpr FlagSetting kFlags[] = {
     {"ResizeFit", &ProgramState::ResizeFit, true}, {"Search", &ProgramState::Search, true}};
 
 /// Paths of the program's own are stored relative to it, beginning with a dot, so that a moved
-/// installation finds its data.
+/// installation finds its data. Any other text is stored as it is.
+struct OwnPath {
+  std::string path;
+  const char* stored;
+};
+
+std::vector<OwnPath> ownPaths() {
+  const std::string own = sys::App.Path();
+  return {{own, "."}, {own + "\\data", ".\\data"}, {own + "\\data\\base.pal", ".\\data\\base.pal"}};
+}
+
 std::string storedForm(const std::string& path) {
-  const std::string own = sys::App.Path(), data = sys::join(own, "data");
-  const bool isOwn = path == own || path == data || path == sys::join(data, "base.pal");
-  return isOwn ? std::string(".").append(path, own.size()) : path;
+  for (const OwnPath& own : ownPaths()) {
+    if (path == own.path) return own.stored;
+  }
+  return path;
 }
 
 std::string fromStoredForm(const std::string& text) {
-  return text == "." || text.starts_with(".\\") ? sys::App.Path() + text.substr(1) : text;
+  for (const OwnPath& own : ownPaths()) {
+    if (text == own.stored) return own.path;
+  }
+  return text;
 }
 
 }  // namespace

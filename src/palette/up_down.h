@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractSpinBox>
+#include <QEvent>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -22,12 +23,18 @@ class UpDown final : public QAbstractSpinBox {
   }
 
   void stepBy(int steps) override {
-    const int number = numberOf(sys::bytesOf(buddy_->text()), min_, max_);
-    buddy_->setText(QString::number(std::clamp(number + steps, min_, max_)));
+    // Qt asks for ten steps at once with Ctrl and for Page Up and Page Down.
+    const int number =
+        numberOf(sys::bytesOf(buddy_->text()), min_, max_) + std::clamp(steps, -1, 1);
+    buddy_->setText(QString::number(std::clamp(number, min_, max_)));
   }
 
  protected:
   StepEnabled stepEnabled() const override { return StepUpEnabled | StepDownEnabled; }
+  /// The hidden text box would take the keys for undo and redo.
+  bool event(QEvent* event) override {
+    return event->type() != QEvent::ShortcutOverride && QAbstractSpinBox::event(event);
+  }
 
  private:
   QLineEdit* const buddy_;

@@ -1,5 +1,6 @@
 #include "picture/find_palette.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "picture/hooks.h"
@@ -24,9 +25,10 @@ std::vector<std::string> searchedDirectories() {
 }
 
 /// Checks each directory for this one file, without listing it.
-std::vector<std::string> pathsOf(const std::string& name) {
+std::vector<std::string> pathsOf(const std::string& name,
+                                 const std::vector<std::string>& directories) {
   std::vector<std::string> paths;
-  for (const std::string& directory : searchedDirectories()) {
+  for (const std::string& directory : directories) {
     std::string path = sys::join(directory, name);
     if (sys::isNormalFile(path)) paths.push_back(std::move(path));
   }
@@ -36,11 +38,11 @@ std::vector<std::string> pathsOf(const std::string& name) {
 void settlePalette(PaletteNames* names) {
   if (state.PictureRecord.PaletteIndex == 0) {
     state.CurrentPaletteFile = tempPalettePath();
-    if (names) names->forget();
     return;
   }
   const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";
-  const std::vector<std::string> paths = names ? names->find(name) : pathsOf(name);
+  const std::vector<std::string> paths =
+      names ? names->find(name) : pathsOf(name, searchedDirectories());
   if (paths.size() > 1) {
     hooks.choosePalette(paths);
     if (names) names->forget();
@@ -52,16 +54,22 @@ void settlePalette(PaletteNames* names) {
 }  // namespace
 
 std::vector<std::string> PaletteNames::find(const std::string& name) {
-  if (!paths_) {
-    paths_.emplace();
-    for (const std::string& directory : searchedDirectories()) {
-      for (const std::string& each : sys::filesIn(directory, "*.pal")) {
-        (*paths_)[each].push_back(sys::join(directory, each));
-      }
+  if (directories_.empty()) read();
+  const auto found = paths_.find(name);
+  const bool isThere = found != paths_.end() &&
+                       std::all_of(found->second.begin(), found->second.end(), sys::isNormalFile);
+  // Files may come and go meanwhile, and some directories can be searched but not read.
+  return isThere ? found->second : pathsOf(name, directories_);
+}
+
+void PaletteNames::read() {
+  directories_ = searchedDirectories();
+  paths_.clear();
+  for (const std::string& directory : directories_) {
+    for (const std::string& name : sys::filesIn(directory, "*.pal")) {
+      paths_[name].push_back(sys::join(directory, name));
     }
   }
-  const auto found = paths_->find(name);
-  return found == paths_->end() ? std::vector<std::string>() : found->second;
 }
 
 Fault FindPalette(PaletteNames* names) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -9,16 +8,20 @@
 
 namespace mill {
 
-/// The names of all palette files that the search considers, read once for all pictures of a run.
-/// They are read again after the user was asked something, since files may have been added by then.
+/// What the searched directories hold, read once for all pictures of a run. Without it, each of
+/// thousands of pictures would ask every directory for its file.
 class PaletteNames {
  public:
   /// The paths of the files with this name, the palette directory's own first.
   std::vector<std::string> find(const std::string& name);
-  void forget() { paths_.reset(); }
+  /// Files may have come while the user was asked something: reads the directories again.
+  void forget() { directories_.clear(); }
 
  private:
-  std::optional<std::unordered_map<std::string, std::vector<std::string>>> paths_;
+  void read();
+
+  std::vector<std::string> directories_;
+  std::unordered_map<std::string, std::vector<std::string>> paths_;
 };
 
 /// Loads the palette for `PaletteIndex`: the file named after the index in the palette directory

@@ -105,6 +105,17 @@ TEST_F(Conversion, AsksFromTheSecondFailureOnAndSumsUpWhatWasPassedOver) {
   convert(names);
   EXPECT_EQ(messages.texts().size(), 2u);
 
+  below = {""};
+  std::filesystem::remove(folder.path("pal/base.pal"));
+  state.AutoPal = true;
+  type("frmMain", "lstDest", folder.drive("out"));
+  messages.answers = {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::Ok};
+  convert(names);
+  EXPECT_EQ(messages.texts().back() + below.back(),
+            "1 of 5 pictures were passed over.\n2 of 5 pictures were converted with a warning."
+            "c.bmp\n\nd.bmp\ne.bmp\n");
+  type("frmMain", "lstDest", folder.drive("gone"));
+
   std::filesystem::create_directory_symlink("in", folder.path("gone"));  // is said once
   convert({"a.bmp", "b.bmp"});
   messages.expectLast(1, "The source and destination directories must be different.", "Warning!",

@@ -73,6 +73,29 @@ TEST_F(BrowseDialogs, StartWhereTheSeedSaysAndTheirListsFollowEachOther) {
   }
 }
 
+TEST_F(BrowseDialogs, NeverGiveADirectoryThatIsGone) {
+  const std::string b = folder.drive("a\\b");
+  for (const char* dialog : {kFileBrowse, kSave}) {
+    folder.makeFolder("a/b");
+    folder.write("a/b/1.pal", {});  // as there is one in "a"
+    use(dialog, b + "\\x", [&] {
+      QTest::keyClick(control(dialog, "File1"), Qt::Key_Home);
+      std::filesystem::remove_all(folder.path("a/b"));
+      pressOK(dialog);
+      EXPECT_EQ(messages.texts(), test::Texts{"The directory does not exist.\n" + b});
+      EXPECT_TRUE(test::window(dialog)->isVisible());
+      press(dialog, "cmdCancel");
+    });
+  }
+  use(kBrowse, "C:\\sub", [] { pressOK(kBrowse); });
+  std::filesystem::remove(folder.path("prefix/dosdevices/c:"));
+  use(kBrowse, "", [] {
+    EXPECT_EQ(control<QComboBox>(kBrowse, "Drive1")->currentText(), "Z:");
+    pressOK(kBrowse);
+  });
+  EXPECT_EQ(state.BrowseResult, "Z:\\");
+}
+
 TEST_F(BrowseDialogs, EscapeAndCancelEmptyWhatTheCloseBoxLeaves) {
   const std::string seed = folder.drive("a") + "\\x";
   for (const char* dialog : {kBrowse, kFileBrowse, kSave}) {

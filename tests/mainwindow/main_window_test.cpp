@@ -50,9 +50,11 @@ TEST_F(MainWindow, TakesOddSettings) {
   set("ShowPrev", "True");
   set("ResizeFit", "maybe");  // counts as missing, and True is the default
   set("Dest", ".\\data");     // of the program, wherever it is now
+  set("PalDir", ".\\typed");  // is not
   start();
   EXPECT_EQ(control<forms::ComboBox>("frmMain", "lstDest")->Text(), sys::App.Path() + "\\data");
   EXPECT_EQ(control<forms::ComboBox>("frmMain", "lstSource")->Text(), sys::App.Path());
+  EXPECT_EQ(state.PalDir, ".\\typed");
   EXPECT_TRUE(window("frmPreviewToolbar")->isVisible() && isEnabled("frmMain", "cmdOpen"));
   click("chkPrev");
   EXPECT_FALSE(window("frmPreviewToolbar")->isVisible() || isEnabled("frmMain", "chkResize"));

@@ -33,10 +33,13 @@ class Editor : public test::WindowTest {
     frmColour->show();
     test::settle();
   }
+  /// Presses the mouse on the next swatch and releases it on this one.
   static void click(int swatch) {
     auto* view = control<QTableView>(kForm, "palette1");
     const QRect place = view->visualRect(view->model()->index(swatch / 16, swatch % 16));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place.center());
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, place.center() + QPoint(16, 0));
+    QTest::mouseMove(view->viewport(), place.center());
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, place.center());
   }
   static std::string numbers() {
     std::string texts;
@@ -73,7 +76,7 @@ TEST_F(Editor, TypedNumbersReachTheSavedFile) {
   }
   test::expectSwatches(kForm, changed);
   EXPECT_EQ(patch("lblOrginal"), qRgb(255, 255, 255));
-  QTest::keyClick(control(kForm, "updRed"), Qt::Key_Up);
+  QTest::keyClick(control(kForm, "updRed"), Qt::Key_PageUp);
   test::press(kForm, "cmdInvert");  // a proposal until it is set
   EXPECT_EQ(numbers(), "9 247 248 248 ");
   test::press(kForm, "cmdInvertAll");
@@ -81,12 +84,14 @@ TEST_F(Editor, TypedNumbersReachTheSavedFile) {
     for (std::uint8_t* part : {&red, &green, &blue}) *part = static_cast<std::uint8_t>(~*part);
   }
   test::expectSwatches(kForm, changed);
-  const auto undo = [](Qt::Key key, Qt::KeyboardModifiers shift) {
-    QTest::keyClick(control(kForm, "txtRed"), key, Qt::ControlModifier | shift);
+  const auto undo = [](const char* at, Qt::KeyboardModifiers shift) {
+    for (int i = 0; i < 5; ++i) {
+      QTest::keyClick(control(kForm, at), Qt::Key_Z, Qt::ControlModifier | shift);
+    }
   };
-  for (int i = 0; i < 5; ++i) undo(Qt::Key_Z, {});
+  undo("txtRed", {});
   test::expectSwatches(kForm, own);
-  for (int i = 0; i < 5; ++i) undo(Qt::Key_Z, Qt::ShiftModifier);
+  undo("updRed", Qt::ShiftModifier);
   test::expectSwatches(kForm, changed);
   use("cmdSave", "inverted.pal");
   EXPECT_EQ(test::readFile(folder.path("inverted.pal")), paletteFile(kHead, changed));

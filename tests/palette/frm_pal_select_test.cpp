@@ -60,6 +60,8 @@ TEST_F(Chooser, OnlyAButtonDecidesAndAPreviewIsNoChoice) {
         expectPreview(picture, 20 + row);
       }
       choose(chosen);
+      auto* list = control<QListView>(kForm, "lstPalette");
+      QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(9, list->height() - 9));
       for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         QTest::keyClick(control(kForm, "lstPalette"), key);
       }

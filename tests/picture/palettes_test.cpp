@@ -79,6 +79,11 @@ TEST_F(Palettes, APictureFindsTheFilesNamedAfterItsIndex) {
     for (const int index : {27, 33}) EXPECT_EQ(found(index), folder.drive("base.pal")) << index;
     EXPECT_EQ(found(31), folder.drive(search ? "pal/sub/31.pal" : "pal/31.pal"));
     EXPECT_EQ(found(40), folder.drive(search ? "pal/40.pal" : "base.pal"));
+    // Files come and go during a run.
+    folder.write("pal/41.pal", paletteFile(kHead, someColours(3)));
+    std::filesystem::remove(folder.path("pal/40.pal"));
+    EXPECT_EQ(found(41) + found(40), folder.drive("pal/41.pal") + folder.drive("base.pal"));
+    std::filesystem::remove(folder.path("pal/41.pal"));
     // The colours that a standard bitmap brought along.
     EXPECT_EQ(found(0), folder.drive("bmp.pal"));
     EXPECT_EQ(state.PaletteTable, someColours(4));

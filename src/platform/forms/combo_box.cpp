@@ -64,17 +64,19 @@ void ComboBox::pick(const std::string& entry) {
 DriveBox::DriveBox(QWidget* parent, std::function<void()> change) : CalmComboBox(parent) {
   setAccessibleName(QStringLiteral("Drive"));
   readDrives();
-  setCurrentText(QStringLiteral("Z:"));
   if (change) connect(this, &QComboBox::currentIndexChanged, this, std::move(change));
 }
 
 /// Drives may have changed; the current one is kept if it still exists.
 void DriveBox::readDrives() {
-  const QSignalBlocker quiet(this);
   const QString present = currentText();
-  clear();
-  for (const std::string& drive : sys::drives()) addItem(sys::shown(drive));
-  setCurrentText(present);
+  {
+    const QSignalBlocker quiet(this);
+    clear();
+    for (const std::string& drive : sys::drives()) addItem(sys::shown(drive));
+    setCurrentIndex(findText(present));
+  }
+  if (currentIndex() < 0) setCurrentText(QStringLiteral("Z:"));
 }
 
 std::string DriveBox::Drive() const {

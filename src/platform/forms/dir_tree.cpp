@@ -55,7 +55,10 @@ std::string withoutDots(std::string path) {
 }  // namespace
 
 DirTree::DirTree(QWidget* parent, std::function<void()> change)
-    : QTreeWidget(parent), change_(change ? std::move(change) : [] {}) {
+    : QTreeWidget(parent), change_([this, change = std::move(change)] {
+        setToolTip({});  // which was about another directory
+        if (change) change();
+      }) {
   setAccessibleName(QStringLiteral("Directory"));
   setColumnCount(1);
   setHeaderHidden(true);
@@ -71,18 +74,22 @@ DirTree::DirTree(QWidget* parent, std::function<void()> change)
 }
 
 std::string DirTree::Path() const {
-  std::string path = currentItem() ? pathOf(currentItem()) : std::string();
+  std::string path = highlighted();
   while (!sys::isDirectory(path) && path.size() > 3) path = parentOf(path);
-  return path;
+  return sys::isDirectory(path) ? path : "Z:\\";
+}
+
+std::string DirTree::highlighted() const {
+  return currentItem() ? pathOf(currentItem()) : std::string();
 }
 
 void DirTree::setPath(const std::string& path) {
   std::string wanted = withoutDots(sys::drivePath(path));
   if (!sys::isDirectory(wanted.substr(0, 2))) return;
   while (!sys::isDirectory(wanted) && wanted != parentOf(wanted)) wanted = parentOf(wanted);
-  const std::string before = currentItem() ? pathOf(currentItem()) : std::string();
+  const std::string before = highlighted();
   highlight(wanted);
-  if (pathOf(currentItem()) != before) change_();
+  if (highlighted() != before) change_();
 }
 
 /// Reads the tree again down to an existing directory, since directories may have changed while the

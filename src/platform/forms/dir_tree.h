@@ -14,8 +14,11 @@ class DirTree final : public QTreeWidget {
   /// `change` is called when another directory is highlighted, by the user or by code.
   explicit DirTree(QWidget* parent, std::function<void()> change = {});
 
-  /// The highlighted directory in drive form or, if it no longer exists, the nearest one above it.
+  /// The highlighted directory in drive form or, if it no longer exists, the nearest one above it,
+  /// and `Z:\` if its drive is gone.
   std::string Path() const;
+  /// The same, whether or not it still exists.
+  std::string highlighted() const;
   /// If the path isn't a directory, the nearest one above it is used. A path on a missing drive
   /// changes nothing.
   void setPath(const std::string& path);

@@ -116,7 +116,7 @@ void Form::setVisible(bool visible) {
     }
     place();
     if (!isVisible()) showFocus();
-    if (isTool()) setWindowState(windowState() & ~Qt::WindowMinimized);
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     // A tool window is updated when shown, but the window in use stays active.
     if (!isTool() || !active_) active_ = this;
     QDialog::setVisible(true);
@@ -150,8 +150,9 @@ void Form::place() {
     if (!isVisible()) orderedSize_ = size();
   }
 
+  // Of the client area, since the size of the frame isn't known at first.
   const auto centreOn = [this](const QPoint& centre) {
-    move(centre - QPoint(width() / 2, height() / 2));
+    setGeometry(QRect(centre - QPoint(width() / 2, height() / 2), size()));
   };
   if (look_.Position == StartUpPosition::CentreOwner && owner) {
     centreOn(owner->frameGeometry().center());

@@ -1,9 +1,13 @@
 #include "platform/forms/gesture_list.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 #include <utility>
+
+#include "platform/forms/plain_text.h"
 
 namespace forms {
 
@@ -32,29 +36,36 @@ QString GestureList::chosenText() const {
   return chosen.data().toString();
 }
 
+/// Other buttons don't select. Off the rows there is only something to clear.
+bool GestureList::begins(const QMouseEvent& event) const {
+  const bool onRow = indexAt(event.position().toPoint()).isValid();
+  return event.button() == Qt::LeftButton && (onRow || selectionMode() != SingleSelection);
+}
+
 void GestureList::mousePressEvent(QMouseEvent* event) {
-  // Other buttons don't select.
-  if (event->button() != Qt::LeftButton) return;
-  gesture_ = indexAt(event->position().toPoint()).isValid() ? Gesture::OnRow : Gesture::OffRows;
+  if (!begins(*event)) return;
+  gesture_ = Gesture::Click;
   QListView::mousePressEvent(event);
 }
 
+void GestureList::mouseMoveEvent(QMouseEvent* event) {
+  if (gesture_ != Gesture::None) QListView::mouseMoveEvent(event);
+}
+
 void GestureList::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const bool onRow = indexAt(event->position().toPoint()).isValid();
-  gesture_ = onRow ? Gesture::DoubleClick : Gesture::OffRows;
-  QListView::mouseDoubleClickEvent(event);
+  if (!begins(*event)) return;
+  gesture_ = Gesture::DoubleClick;
+  QListView::mouseDoubleClickEvent(event);  // off the rows, it is another press
 }
 
 void GestureList::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   QListView::mouseReleaseEvent(event);
-  // Handlers may open windows, so they run after the gesture. A click on a row counts even if it
-  // changes nothing, and so does one that clears the selection.
+  // Handlers may open windows, so they run after the gesture. A click counts even if it changes
+  // nothing.
   const Gesture gesture = std::exchange(gesture_, Gesture::None);
-  if (gesture == Gesture::DoubleClick) return dblClick_();
-  const bool meansNone = gesture == Gesture::OffRows && selectionMode() == ExtendedSelection;
-  if (gesture == Gesture::OnRow || meansNone) click_();
+  if (gesture == Gesture::DoubleClick) dblClick_();
+  if (gesture == Gesture::Click) click_();
 }
 
 void GestureList::keyPressEvent(QKeyEvent* event) {
@@ -68,6 +79,16 @@ void GestureList::keyPressEvent(QKeyEvent* event) {
     QListView::keyPressEvent(event);
   }
   if (isChanged_) click_();
+}
+
+bool GestureList::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QListView::viewportEvent(event);
+  const auto& help = static_cast<QHelpEvent&>(*event);
+  const QModelIndex at = indexAt(help.pos());
+  const bool isCut = at.isValid() && sizeHintForIndex(at).width() > viewport()->width();
+  if (!isCut) return QListView::viewportEvent(event);
+  QToolTip::showText(help.globalPos(), plainToolTip(at.data().toString()), viewport());
+  return true;
 }
 
 }  // namespace forms

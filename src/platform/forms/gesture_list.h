@@ -9,7 +9,7 @@ namespace forms {
 
 /// A list of texts that reports each gesture once: dragging over a hundred rows or pressing Ctrl+A
 /// is one Click, and a double click is a Click and a DblClick. Keys that change nothing and changes
-/// by code aren't reported.
+/// by code aren't reported. With single selection, the mouse can't clear a choice once made.
 class GestureList : public QListView {
  public:
   GestureList(QWidget* parent, SelectionMode mode, std::function<void()> click,
@@ -23,12 +23,17 @@ class GestureList : public QListView {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// Shows texts that are cut off as a tool tip.
+  bool viewportEvent(QEvent* event) override;
 
  private:
-  enum class Gesture { None, OnRow, OffRows, DoubleClick };
+  enum class Gesture { None, Click, DoubleClick };
+
+  bool begins(const QMouseEvent& event) const;
 
   QStringListModel texts_;
   std::function<void()> click_;

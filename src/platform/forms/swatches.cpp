@@ -3,6 +3,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -108,7 +109,6 @@ Swatches::Swatches(QWidget* parent, std::function<void(int)> choose)
     header->setMinimumSectionSize(1);
     header->setSectionResizeMode(QHeaderView::Fixed);
   }
-  connect(this, &QTableView::clicked, this, &Swatches::choose);
 }
 
 void Swatches::setColours(const mill::ColourTable& colours) {
@@ -119,8 +119,11 @@ void Swatches::setCurrent(int index) {
   setCurrentIndex(model_->index(index / kSide, index % kSide));
 }
 
-void Swatches::choose() {
-  if (choose_) choose_(kSide * currentIndex().row() + currentIndex().column());
+bool Swatches::choose() {
+  const QModelIndex at = currentIndex();
+  if (!choose_ || !at.isValid()) return false;
+  choose_(kSide * at.row() + at.column());
+  return true;
 }
 
 /// The closing line at the right and bottom belongs to no swatch.
@@ -130,12 +133,22 @@ void Swatches::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
 }
 
+void Swatches::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QTableView::mousePressEvent(event);
+}
+
+/// The mark follows the mouse until the button is released; that swatch is chosen.
+void Swatches::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) choose();
+}
+
 void Swatches::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      choose_&& currentIndex().isValid() ? choose() : event->ignore();
+      if (!choose()) event->ignore();
       return;
     default:
       QTableView::keyPressEvent(event);

@@ -25,10 +25,13 @@ class Swatches final : public QTableView {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void choose();
+  /// Chooses the current swatch; false if there is none or the palette is for display only.
+  bool choose();
 
   SwatchModel* model_;
   std::function<void(int)> choose_;
