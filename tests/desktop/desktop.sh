@@ -65,8 +65,8 @@ make_samples() {
 # use_samples lets the program start in their folders.
 use_samples() {
   local path=Z:${made//\//\\\\}
-  printf '[Settings]\nSource="%s"\nDest="%s"\nPalDir="%s"\n' "$path\\\\pictures" \
-    "$path\\\\converted" "$path\\\\palettes" >"$XDG_CONFIG_HOME/RasterMill.ini"
+  printf '[Settings]\nSource="%s"\nDest="%s"\nPalDir="%s"\nPalette="%s"\n' \
+    "$path\\\\"{pictures,converted,palettes,'palettes\\day\\44.pal'} >"$XDG_CONFIG_HOME/RasterMill.ini"
 }
 
 start_program() {

@@ -8,12 +8,12 @@ source "$(dirname "${BASH_SOURCE[0]}")/desktop.sh"
 
 # Where to click, in twips: the main window, the palette tools, and the other windows.
 declare -A place=(
-  [default]="5600 3030" [browse default]="7620 2640" [Show Preview window]="3840 1085"
+  [Show Preview window]="3840 1085"
   [Preview]="780 4440" [Batch]="3720 4440"
   [swatch 108]="3120 1680" [red]="1000 4222" [Set New]="4690 3660"
   [Extract]="4690 1260" [Save Palette]="4690 2220" [Use]="4690 307" [file name]="2400 3150"
   [list]="3060 230" [extract to]="1500 1300" [Load]="4260 270" [Save]="4260 1080" [Done]="4260 1485"
-  [second file]="3000 435" [default option]="2600 2010"
+  [default option]="2600 2010"
   [Yes]="780 2700" [second choice]="1200 922" [Choose]="6540 2340"
 )
 click() { click_at "${place[$1]% *}" "${place[$1]#* }"; }
@@ -63,17 +63,13 @@ pictures=$made/pictures palettes=$made/palettes converted=$made/converted
 start_screen 2000 1200 "$made"
 use_samples
 
-# The default palette. The windows move apart, so that none hides another.
+# The windows move apart, so that none hides another.
 start_program "$1/raster-mill"
 wait_until "the preview" find_window Preview
 preview=$found
-wait_until "the swatches" find_window "Palette (base.pal)"
+wait_until "the swatches" find_window "Palette (44.pal)"
 at "Raster Mill" xdotool windowmove "$preview" 20 40 windowmove "$found" 1320 600
 xdotool windowmove --sync "$window" 1320 100
-at "Raster Mill" fill default "$palettes/day/"
-click "browse default"
-at "Browse for Palette File" click "second file"
-press Return
 select_file Seahorse.bmp
 click Preview
 expect_preview 52.pal
@@ -119,11 +115,8 @@ screenshot editor
 click "Save Palette"
 at "Save File" fill "file name" edited.pal
 press Return
-rm "$temp/temp.bmp"
 at " View/Edit Palette" click Use
 expect_preview edited.pal
-cmp -n 1024 -i 54:24 "$temp/temp.bmp" "$palettes/day/edited.pal" || fail "it was saved elsewhere"
-[[ $(od -An -tu1 -j$((56 + 4 * 108)) -N1 "$temp/temp.bmp") -eq 200 ]] || fail "no colour was set"
 at "Raster Mill" press ctrl+f
 at "Picture Information" screenshot info
 press Return
@@ -149,4 +142,3 @@ wait_for_end
 
 diff <(ls "$pictures") <(ls "$converted") || fail "not every picture was converted"
 cmp -n 1024 -i 54:24 "$converted/HARBOUR.BMP" "$palettes/night/25.pal" || fail "it wasn't chosen"
-cmp -n 1024 -i 24:52 "$made/25.pal" "$palettes/ironveil.ksl" || fail "another palette was taken"
