@@ -150,9 +150,8 @@ void Form::place() {
     if (!isVisible()) orderedSize_ = size();
   }
 
-  // Of the client area, since the size of the frame isn't known at first.
   const auto centreOn = [this](const QPoint& centre) {
-    setGeometry(QRect(centre - QPoint(width() / 2, height() / 2), size()));
+    move(centre - QPoint(width() / 2, height() / 2));
   };
   if (look_.Position == StartUpPosition::CentreOwner && owner) {
     centreOn(owner->frameGeometry().center());
