@@ -39,36 +39,23 @@ size_t cut(size_t size) {
 }  // namespace
 
 // The linker puts these in the place of the program's system calls.
-extern "C" {
-int __real_open(const char* path, int flags, ...);
-ssize_t __real_read(int handle, void* bytes, size_t size);
-ssize_t __real_write(int handle, const void* bytes, size_t size);
-int __real_close(int handle);
-int __real_fstat(int handle, struct stat* status);
-int __real_lstat(const char* path, struct stat* status);
-int __real_rename(const char* from, const char* to);
+#define WRAP(type, name, canBeInterrupted, parameters, arguments)  \
+  type __real_##name parameters;                                   \
+  type __wrap_##name parameters {                                  \
+    return fails(canBeInterrupted) ? -1 : __real_##name arguments; \
+  }
 
-int __wrap_open(const char* path, int flags, mode_t mode) {
-  return fails(true) ? -1 : __real_open(path, flags, mode);
-}
-ssize_t __wrap_read(int handle, void* bytes, size_t size) {
-  return fails(true) ? -1 : __real_read(handle, bytes, cut(size));
-}
-ssize_t __wrap_write(int handle, const void* bytes, size_t size) {
-  return fails(true) ? -1 : __real_write(handle, bytes, cut(size));
-}
-int __wrap_close(int handle) {
-  const int result = __real_close(handle);
+extern "C" {
+WRAP(int, open, true, (const char* path, int flags, mode_t mode), (path, flags, mode))
+WRAP(ssize_t, read, true, (int file, void* bytes, size_t size), (file, bytes, cut(size)))
+WRAP(ssize_t, write, true, (int file, const void* bytes, size_t size), (file, bytes, cut(size)))
+WRAP(int, fstat, false, (int file, struct stat* status), (file, status))
+WRAP(int, lstat, false, (const char* path, struct stat* status), (path, status))
+WRAP(int, rename, false, (const char* from, const char* to), (from, to))
+int __real_close(int file);
+int __wrap_close(int file) {
+  const int result = __real_close(file);
   return fails(true) ? -1 : result;
-}
-int __wrap_fstat(int handle, struct stat* status) {
-  return fails(false) ? -1 : __real_fstat(handle, status);
-}
-int __wrap_lstat(const char* path, struct stat* status) {
-  return fails(false) ? -1 : __real_lstat(path, status);
-}
-int __wrap_rename(const char* from, const char* to) {
-  return fails(false) ? -1 : __real_rename(from, to);
 }
 }
 
