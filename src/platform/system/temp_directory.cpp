@@ -36,9 +36,9 @@ bool isPrivate(const std::string& directory) {
 
 /// A directory that nobody else can use, as long as this object lives. Not held if it isn't this
 /// user's, is a link, or another copy of the program holds it.
-class HeldDirectory {
+class PrivateDirectory {
  public:
-  explicit HeldDirectory(fs::path path) : path_(std::move(path)) {
+  explicit PrivateDirectory(fs::path path) : path_(std::move(path)) {
     // What is tested and changed here is the directory that was opened, whatever its name may lead
     // to later.
     handle_ = ::open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
@@ -46,15 +46,15 @@ class HeldDirectory {
     isHeld_ = handle_ >= 0 && ::fstat(handle_, &status) == 0 && status.st_uid == ::getuid() &&
               ::fchmod(handle_, S_IRWXU) == 0 && lock();
   }
-  ~HeldDirectory() {
+  ~PrivateDirectory() {
     std::error_code error;
-    if (isHeld_ && isFleeting) fs::remove_all(path_, error);
+    if (isHeld_ && isTemporary) fs::remove_all(path_, error);
     for (const int handle : {lock_, handle_}) {
       if (handle >= 0) ::close(handle);
     }
   }
-  HeldDirectory(const HeldDirectory&) = delete;
-  HeldDirectory& operator=(const HeldDirectory&) = delete;
+  PrivateDirectory(const PrivateDirectory&) = delete;
+  PrivateDirectory& operator=(const PrivateDirectory&) = delete;
 
   bool isHeld() const { return isHeld_; }
   /// Whether it hasn't been removed.
@@ -64,7 +64,7 @@ class HeldDirectory {
   }
   const fs::path& path() const { return path_; }
 
-  bool isFleeting = false;  ///< goes with this object
+  bool isTemporary = false;  ///< goes with this object
 
  private:
   /// Where the file system has no locks, nobody else can hold the directory either.
@@ -86,36 +86,36 @@ fs::path cacheDirectory() {
 }
 
 /// Removes the directories that killed copies of the program have left.
-void clearFleeting(const fs::path& base) {
+void clearTemporary(const fs::path& base) {
   std::error_code error;
   for (fs::directory_iterator entry(base, error), end; !error && entry != end;
        entry.increment(error)) {
     const std::string name = entry->path().filename().string();
     if (!name.starts_with(std::string(kName) + "-")) continue;
-    HeldDirectory left(entry->path());
-    left.isFleeting = true;  // so it goes at once, unless it is in use
+    PrivateDirectory left(entry->path());
+    left.isTemporary = true;  // so it goes at once, unless it is in use
   }
 }
 
 /// One with a random name; empty on failure.
-fs::path makeFleeting(const fs::path& base) {
+fs::path makeTemporary(const fs::path& base) {
   std::string pattern = (base / kName).string() + "-XXXXXX";
   return ::mkdtemp(pattern.data()) ? pattern : "";
 }
 
-std::unique_ptr<HeldDirectory> holdOwn() {
+std::unique_ptr<PrivateDirectory> holdOwn() {
   const fs::path base = cacheDirectory();
   std::error_code error;
   fs::create_directories(base, error);
   ::mkdir((base / kName).c_str(), S_IRWXU);
-  auto own = std::make_unique<HeldDirectory>(base / kName);
+  auto own = std::make_unique<PrivateDirectory>(base / kName);
   if (own->isHeld()) {
-    clearFleeting(base);
+    clearTemporary(base);
     return own;
   }
   for (const fs::path& place : {base, fs::temp_directory_path(error), fs::path("/tmp")}) {
-    own = std::make_unique<HeldDirectory>(makeFleeting(place));
-    own->isFleeting = true;
+    own = std::make_unique<PrivateDirectory>(makeTemporary(place));
+    own->isTemporary = true;
     if (own->isHeld()) break;
   }
   return own;
@@ -123,7 +123,7 @@ std::unique_ptr<HeldDirectory> holdOwn() {
 
 /// Held until the program ends, or until somebody removes the directory.
 std::string ownDirectory() {
-  static std::unique_ptr<HeldDirectory> own;
+  static std::unique_ptr<PrivateDirectory> own;
   if (!own || !own->exists()) {
     own.reset();
     own = holdOwn();
