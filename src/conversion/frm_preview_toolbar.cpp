@@ -31,8 +31,10 @@ void PreviewForm::fit(std::int32_t width, std::int32_t height) {
   const QSize most = screen()->virtualSize();
   // Top-down bitmaps have a negative height.
   const std::int64_t rows = std::abs(std::int64_t{height});
+  const QSize before = size();
   resize(std::clamp(width, kLeast.width(), most.width()),
          static_cast<int>(std::clamp<std::int64_t>(rows, kLeast.height(), most.height())));
+  if (size() == before) Form_Resize();  // Qt doesn't call it
 }
 
 void PreviewForm::Form_Resize() {
