@@ -20,7 +20,7 @@ import matplotlib.pyplot as plt  # noqa: E402
 BIN, STORE, STARTS, OUT = sys.argv[1:]
 BENCH = os.path.join(BIN, "window-bench")
 SOURCE, TARGET = os.path.join(STORE, "source"), os.path.join(STORE, "target")
-RUNS = 5
+RUNS = int(os.environ.get("RUNS", "5"))
 WORKS = [(2000, 64, 64), (1000, 640, 480), (1, 8192, 8192)]
 COUNTS = [10, 100, 1000, 10_000, 100_000]
 FEW = 100  # pictures for programs that need a process for each
@@ -216,8 +216,8 @@ def main():
             f"{os.cpu_count()} cores ({processor.group(1) if processor else 'unknown'}), with all "
             "files in memory. The plain loop does the least that the work can be: for each file it "
             "reads it whole and writes headers, colours and reversed rows, without a window and "
-            "without checks. Each figure is the median of five runs in fresh processes, with the "
-            "lowest and highest. ImageMagick and netpbm are measured on at most "
+            "without checks. Each figure is the median of "
+            f"{RUNS} runs in fresh processes, with the lowest and highest. ImageMagick and netpbm are measured on at most "
             f"{FEW} of the pictures.\n"]
     compare(page)
     scale(page)
