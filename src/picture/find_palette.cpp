@@ -55,11 +55,13 @@ void settlePalette(PaletteNames* names) {
 
 std::vector<std::string> PaletteNames::find(const std::string& name) {
   if (directories_.empty()) read();
-  const auto found = paths_.find(name);
-  const bool isThere = found != paths_.end() &&
-                       std::all_of(found->second.begin(), found->second.end(), sys::isNormalFile);
-  // Files may come and go meanwhile, and some directories can be searched but not read.
-  return isThere ? found->second : pathsOf(name, directories_);
+  const auto [found, isNew] = paths_.try_emplace(name);
+  std::vector<std::string>& paths = found->second;
+  // Files may have gone meanwhile, and some directories can be searched but not read.
+  if (isNew || !std::all_of(paths.begin(), paths.end(), sys::isNormalFile)) {
+    paths = pathsOf(name, directories_);
+  }
+  return paths;
 }
 
 void PaletteNames::read() {
