@@ -67,7 +67,9 @@ void ConversionRun::sumUp() const {
   std::string text, names;
   const auto add = [&](const std::vector<std::string>& pictures, const char* what) {
     if (pictures.empty()) return;
-    if (!text.empty()) text += "\n", names += "\n";
+    for (std::string* above : {&text, &names}) {
+      if (!above->empty()) above->append("\n");
+    }
     text.append(share(static_cast<int>(pictures.size()), count_)).append(what);
     for (const std::string& name : pictures) names.append(name).append("\n");
   };
