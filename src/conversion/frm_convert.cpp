@@ -66,7 +66,7 @@ void ConvertForm::cmdYes_Click() {
 
 /// Every picture would overwrite itself; warn once instead of for each of them.
 bool ConvertForm::directoriesAreOne() const {
-  if (!sys::isSame(sourceDirectory(), destinationDirectory())) return false;
+  if (!sys::isSame(hooks.sourceDirectory(), destinationDirectory())) return false;
   warn(Fault::SameDirectory);
   return true;
 }
@@ -79,7 +79,7 @@ void ConvertForm::enableButtons(bool enabled) {
 
 void ConvertForm::convertSelection() {
   const sys::DirectoryHold hold(destinationDirectory());
-  run_.emplace(sourceDirectory(), state.SelectedCount);
+  run_.emplace(hooks.sourceDirectory(), state.SelectedCount);
   for (std::int32_t i = 0; i < state.SelectedCount && run_->goesOn(); ++i) {
     const std::string& name = state.SelectedFiles[static_cast<std::size_t>(i)];
     run_->next(name);
@@ -96,7 +96,7 @@ void ConvertForm::convertFile(const std::string& name) {
   Progress1->setValue(0);
   if (name != state.PictureFileName) {
     count.current = 0;
-    OpenPicture(sys::join(sourceDirectory(), name), &run_->paletteNames());
+    OpenPicture(sys::join(hooks.sourceDirectory(), name), &run_->paletteNames());
   }
   if (name == state.PictureFileName) {
     count.current = 0;

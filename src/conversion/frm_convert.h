@@ -18,8 +18,7 @@ class ConvertForm final : public forms::Form {
  public:
   ConvertForm();
 
-  /// Where the selected files are and where the bitmaps go; provided by the main window.
-  std::function<std::string()> sourceDirectory;
+  /// Where the bitmaps go; provided by the main window.
   std::function<std::string()> destinationDirectory;
 
   /// Reports `num` bytes written, `times` times.

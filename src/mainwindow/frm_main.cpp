@@ -53,7 +53,7 @@ void MainForm::Form_Load() {
   readSettings();
   if (!sys::hasFiles(state.SourceDir)) state.SourceDir = sys::App.Path();
   frmConvert.load();
-  frmConvert->sourceDirectory = [this] { return filSource->Path(); };
+  hooks.sourceDirectory = [this] { return filSource->Path(); };
   frmConvert->destinationDirectory = [this] { return lstDest->Text(); };
   frmPalToolbar.load();
   frmPreviewToolbar.load();

@@ -37,7 +37,7 @@ std::vector<std::string> pathsOf(const std::string& name,
 
 void settlePalette(PaletteNames* names) {
   if (state.PictureRecord.PaletteIndex == 0) {
-    state.CurrentPaletteFile = tempPalettePath();
+    state.CurrentPaletteFile = state.SavedColours.empty() ? tempPalettePath() : state.SavedColours;
     return;
   }
   const std::string name = std::to_string(state.PictureRecord.PaletteIndex) + ".pal";

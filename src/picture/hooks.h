@@ -13,6 +13,9 @@ namespace mill {
 /// What the shared routines ask of the windows above them. Each hook does nothing until a window
 /// registers itself when it is loaded; the main window resets all of them when it is unloaded.
 struct Hooks {
+  /// The directory whose pictures the main window lists; empty before there is a window.
+  std::function<std::string()> sourceDirectory = [] { return std::string(); };
+
   /// Whether the convert dialog is the active window. Only then is progress reported.
   std::function<bool()> isConverting = [] { return false; };
   /// `total` bytes are 100 percent of what is reported from now on.

@@ -75,7 +75,10 @@ Fault readKestrel(PictureFile& file, const Magic& magic) {
 bool takeColours() {
   state.PaletteTable = state.PictureRecord.Colours;
   state.CurrentPaletteFile = tempPalettePath();
-  if (SavePalette()) return true;
+  if (SavePalette()) {
+    state.SavedColours = state.CurrentPaletteFile;
+    return true;
+  }
   if (state.ShowPal) hooks.updateSwatches();
   return false;
 }
@@ -137,7 +140,8 @@ void OpenPicture(const std::string& path, PaletteNames* names) {
   }
   state.PictureFileName = sys::fileNameOf(path);
   if (!hooks.isConverting()) state.TempPicturePath = tempPicturePath();
-  if (!state.AutoPal || !loadable) return;
+  if (!state.AutoPal) return;
+  if (!loadable) return hooks.showPaletteFile();
   const Fault palette = FindPalette(names);
   const bool isBroken = palette != Fault::None && palette != Fault::PaletteMissing;
   // A run must not write the picture in the colours of another one.

@@ -31,6 +31,8 @@ struct ProgramState {
 
   std::string CurrentPaletteFile;  ///< path of the palette in use
   std::string DefaultPalette;      ///< path, a setting
+  /// Path of the palette file with the colours of the last standard bitmap; empty before the first.
+  std::string SavedColours;
   /// The 24 bytes at the head of the palette file last read; empty before the first one.
   std::string PaletteHeader;
 

@@ -2,6 +2,7 @@
 #include <sstream>
 #include <sys/stat.h>
 
+#include "picture/find_palette.h"
 #include "picture/hooks.h"
 #include "picture/open_picture.h"
 #include "picture/program_state.h"
@@ -137,6 +138,9 @@ TEST_F(BitmapsTest, AStandardBitmapIsOpenedAfterYesAndWrittenAsItWas) {
   messages.expectLast(2, "The palette file can't be written.\n" + state.CurrentPaletteFile,
                       "Warning!", QMessageBox::Critical);
   EXPECT_EQ(state.PaletteTable, someColours(9));
+  state.PictureRecord.PaletteIndex = 0;
+  FindPalette();  // finds those stored before
+  EXPECT_EQ(state.PaletteTable, someColours(1));
 }
 
 TEST_F(BitmapsTest, ARefusedFileGetsOneMessageAndChangesNothing) {
