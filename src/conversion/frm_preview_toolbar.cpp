@@ -27,14 +27,15 @@ void PreviewForm::Form_Load() {
 /// of. The picture before is no longer shown.
 void PreviewForm::fit(std::int32_t width, std::int32_t height) {
   constexpr QSize kLeast(32, 16);
-  Picture1->showImage({}, {});
+  setImage({}, {});
   const QSize most = screen()->virtualSize();
   // Top-down bitmaps have a negative height.
   const std::int64_t rows = std::abs(std::int64_t{height});
   const QSize before = size();
   resize(std::clamp(width, kLeast.width(), most.width()),
          static_cast<int>(std::clamp<std::int64_t>(rows, kLeast.height(), most.height())));
-  if (size() == before) Form_Resize();  // Qt doesn't call it
+  // Otherwise Qt calls it, but a hidden window's only once that is shown.
+  if (size() == before || !isVisible()) Form_Resize();
 }
 
 void PreviewForm::Form_Resize() {
@@ -43,10 +44,14 @@ void PreviewForm::Form_Resize() {
 }
 
 void PreviewForm::paintPreview(const QSize& part) {
-  const std::string name = state.PreviewDC ? "Preview of " + state.PictureFileName : "Preview";
-  Picture1->setAccessibleName(sys::shown(name));
-  Picture1->showImage(state.PreviewDC ? *state.PreviewDC : QImage(), part);
+  setImage(state.PreviewDC ? *state.PreviewDC : QImage(), part);
   repaint();
+}
+
+void PreviewForm::setImage(const QImage& image, const QSize& part) {
+  const std::string name = image.isNull() ? "Preview" : "Preview of " + state.PictureFileName;
+  Picture1->setAccessibleName(sys::shown(name));
+  Picture1->showImage(image, part);
 }
 
 }  // namespace mill

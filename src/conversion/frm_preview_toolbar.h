@@ -21,6 +21,7 @@ class PreviewForm final : public forms::Form {
   void Form_Load() override;
   void Form_Resize() override;
   void fit(std::int32_t width, std::int32_t height);
+  void setImage(const QImage& image, const QSize& part);
 
   PictureBox* Picture1 = add<PictureBox>("Picture1", {0, 0, 4575, 3495});
 };

@@ -114,7 +114,6 @@ TEST_F(MainWindow, OffersWhatSuitsTheSelectionAndConvertsAtADoubleClick) {
 
 TEST_F(MainWindow, TakesWhatIsDropped) {
   folder.makeFolder("more");
-  folder.write("more/one \xFF.bmp", {});
   start();
   drop("frmMain", "lstDest", folder.path("more"));
   drop("frmMain", "lstPalette", folder.path("in"));
@@ -125,13 +124,9 @@ TEST_F(MainWindow, TakesWhatIsDropped) {
   drop("frmMain", "filSource", folder.path("pal"));
   EXPECT_EQ(state.SourceDir, folder.drive("pal"));
   drop("frmMain", "cmdExit", folder.path("more"));
-  folder.write("more/new.bmp", {});
-  drop("frmMain", "cmdExit", folder.path("more/new.bmp"));
-  EXPECT_EQ(state.SelectedFiles, Texts{"new.bmp"});
-  drop("frmMain", "cmdExit", folder.path("more/one \xFF.bmp"));
-  EXPECT_EQ(state.SelectedFiles, Texts{"one \xFF.bmp"});
-  EXPECT_TRUE(isEnabled("frmMain", "cmdConvert"));
-  messages.texts();
+  folder.write("more/new \xFF.bmp", {});
+  drop("frmMain", "cmdExit", folder.path("more/new \xFF.bmp"));
+  EXPECT_EQ(state.SelectedFiles, Texts{"new \xFF.bmp"});
 }
 
 TEST_F(MainWindow, OptionsAreStoredAtOKAndAtApplyAndNotAtCancel) {

@@ -1,8 +1,7 @@
 #include "platform/forms/progress_bar.h"
 
-#include <QTimerEvent>
-
 #include <ctime>
+#include <utility>
 
 namespace forms {
 
@@ -30,24 +29,22 @@ QString ProgressBar::text() const {
 }
 
 void ProgressBar::follow() {
-  if (value_ == value()) return;
-  if (coarseNow() - lastPaint_ >= kPaintGap) {
+  if (value_ != value() && coarseNow() - lastPaint_ >= kPaintGap) {
     paintNow();
-  } else if (!timer_.isActive()) {
-    timer_.start(0, this);
+  } else if (!std::exchange(isPending_, true)) {
+    const auto paint = [this] {
+      isPending_ = false;
+      paintNow();
+    };
+    QMetaObject::invokeMethod(this, paint, Qt::QueuedConnection);
   }
 }
 
 void ProgressBar::paintNow() {
   QProgressBar::setValue(value_);  // repaints at once if the bar is visible
   setAccessibleDescription(subject());
+  update();  // the subject may be another one at the same value
   lastPaint_ = coarseNow();
-}
-
-void ProgressBar::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != timer_.timerId()) return QProgressBar::timerEvent(event);
-  timer_.stop();
-  paintNow();
 }
 
 }  // namespace forms

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QBasicTimer>
 #include <QProgressBar>
 
 #include <algorithm>
@@ -11,7 +10,7 @@ namespace forms {
 
 /// A bar from 0 to 100. `Value` is always exact; the screen is updated at most about 30 times a
 /// second. A long run never returns to the event loop, so the bar repaints at once, and once more
-/// when the loop resumes.
+/// when the loop resumes, for instance while a message is open.
 class ProgressBar final : public QProgressBar {
  public:
   explicit ProgressBar(QWidget* parent);
@@ -33,13 +32,10 @@ class ProgressBar final : public QProgressBar {
   /// Shows the value now, at the end of a run.
   void paintNow();
 
- protected:
-  void timerEvent(QTimerEvent* event) override;
-
  private:
   int value_ = 0;
   std::int64_t lastPaint_ = 0;  ///< nanoseconds
-  QBasicTimer timer_;
+  bool isPending_ = false;      ///< a repaint has been asked of the event loop
 };
 
 }  // namespace forms
